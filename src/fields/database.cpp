@@ -1,0 +1,43 @@
+#include "fields/database.h"
+
+#include "fields/error.h"
+#include "fields/in_memory_database.h"
+#include "fields/text.h"
+
+#include <charconv>
+
+namespace morvel {
+
+std::optional<std::int32_t> parseTableTypeFilter(std::string_view filter) {
+    const std::string_view text = trimBlanks(filter);
+    if (text.empty())
+        return std::nullopt;
+    const auto equals = text.find('=');
+    const std::string_view name = trimBlanks(text.substr(0, equals));
+    const std::string_view number =
+        equals == std::string_view::npos ? std::string_view() : trimBlanks(text.substr(equals + 1));
+    std::int32_t type = 0;
+    const auto* end = number.data() + number.size();
+    const auto parsed = std::from_chars(number.data(), end, type);
+    if (!equalsIgnoringCase(name, "TableType") || number.empty() || parsed.ec != std::errc() ||
+        parsed.ptr != end)
+        throw SearchFilterError("The table search does not understand the filter \"" +
+                                std::string(filter) + "\"; it takes \"TableType=<number>\".");
+    return type;
+}
+
+std::vector<SearchItem> InMemoryDatabase::Search(std::string_view filter, std::string_view second,
+                                                 std::int32_t maximum) {
+    m_calls.push_back({std::string(filter), std::string(second), maximum});
+    const auto type = parseTableTypeFilter(filter);
+    std::vector<SearchItem> items;
+    for (const Table& table : m_tables) {
+        if (static_cast<std::int32_t>(items.size()) >= maximum)
+            break;
+        if (!type || table.tableType == *type)
+            items.push_back({table.displayName, Value(table.id), {table.name}});
+    }
+    return items;
+}
+
+} // namespace morvel

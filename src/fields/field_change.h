@@ -1,0 +1,45 @@
+#pragma once
+
+#include "fields/store_change.h"
+#include "fields/value.h"
+
+#include <cstdint>
+#include <string>
+
+namespace morvel {
+
+class FieldDef;
+
+// The member of a FieldDef that a write changed.
+enum class FieldMember : std::uint8_t {
+    Name,
+    Description,
+    DisplayName,
+    FieldType,
+    Size,
+    DefaultValue,
+    Properties,
+    ListValues,
+    ListValuesCommitted,
+    Locales,
+    CtrlEdit,
+    CtrlReadOnly,
+    CtrlList,
+    Validation,
+    CreateOnDemand,
+};
+
+// One change of one field: for a member its old and new value; for one of the three stores the
+// store's own change (key, old and new value). Enough for dirty tracking and for undo.
+struct FieldChange {
+    FieldDef& field;
+    FieldMember member;
+    StoreChange::Action storeAction = StoreChange::Action::Changed;
+    std::string key;
+    Value oldValue;
+    Value newValue;
+};
+
+const char* memberName(FieldMember member);
+
+} // namespace morvel

@@ -1,0 +1,141 @@
+#include "fields/field_def.h"
+
+#include "fields/error.h"
+#include "fields/field_defs.h"
+
+namespace morvel {
+
+FieldDef::FieldDef(std::string name, std::int32_t fieldType)
+    : m_name(std::move(name))
+    , m_fieldType(fieldType) {
+    if (m_name.empty())
+        throw FieldNameError("A field needs a name.");
+    m_properties.setObserver(this);
+    m_listValues.setObserver(this);
+    m_locales.setObserver(this);
+}
+
+FieldDef::~FieldDef() = default;
+
+void FieldDef::SetName(std::string name) {
+    if (name == m_name)
+        return;
+    if (name.empty())
+        throw FieldNameError("A field needs a name.");
+    std::string old = m_name;
+    if (m_collection)
+        m_collection->rename(*this, std::move(name));
+    else
+        m_name = std::move(name);
+    notify({*this, FieldMember::Name, {}, {}, Value(std::move(old)), Value(m_name)});
+}
+
+void FieldDef::SetDescription(std::string text) {
+    setText(m_description, std::move(text), FieldMember::Description);
+}
+void FieldDef::SetDisplayName(std::string text) {
+    setText(m_displayName, std::move(text), FieldMember::DisplayName);
+}
+void FieldDef::SetFieldType(std::int32_t code) {
+    setNumber(m_fieldType, code, FieldMember::FieldType);
+}
+void FieldDef::SetSize(std::int32_t size) { setNumber(m_size, size, FieldMember::Size); }
+void FieldDef::SetDefaultValue(std::string text) {
+    setText(m_defaultValue, std::move(text), FieldMember::DefaultValue);
+}
+void FieldDef::SetCtrlEdit(std::string text) {
+    setText(m_ctrlEdit, std::move(text), FieldMember::CtrlEdit);
+}
+void FieldDef::SetCtrlReadOnly(std::string text) {
+    setText(m_ctrlReadOnly, std::move(text), FieldMember::CtrlReadOnly);
+}
+void FieldDef::SetCtrlList(std::string text) {
+    setText(m_ctrlList, std::move(text), FieldMember::CtrlList);
+}
+void FieldDef::SetValidation(std::int32_t code) {
+    setNumber(m_validation, code, FieldMember::Validation);
+}
+
+void FieldDef::SetCreateOnDemand(bool flag) {
+    if (flag == m_createOnDemand)
+        return;
+    m_createOnDemand = flag;
+    notify({*this, FieldMember::CreateOnDemand, {}, {}, Value(!flag), Value(flag)});
+}
+
+void FieldDef::CommitListValues() {
+    m_listValues.endRewrite();
+    notify({*this, FieldMember::ListValuesCommitted, {}, {}, {}, {}});
+}
+
+std::string FieldDef::LocaleDescription(std::string_view locale) const {
+    return m_locales.GetValue("D" + std::string(locale), Value(std::string())).toText();
+}
+void FieldDef::SetLocaleDescription(std::string_view locale, std::string text) {
+    m_locales.SetValue("D" + std::string(locale), Value(std::move(text)), true);
+}
+std::string FieldDef::LocaleDisplayName(std::string_view locale) const {
+    return m_locales.GetValue("DN" + std::string(locale), Value(std::string())).toText();
+}
+void FieldDef::SetLocaleDisplayName(std::string_view locale, std::string text) {
+    m_locales.SetValue("DN" + std::string(locale), Value(std::move(text)), true);
+}
+
+Connection FieldDef::onChanged(std::function<void(const FieldChange&)> handler) {
+    if (!m_changed)
+        m_changed = std::make_unique<Signal<const FieldChange&>>();
+    return m_changed->connect(std::move(handler));
+}
+
+void FieldDef::storeChanged(const PropertyStore& store, const StoreChange& change) {
+    FieldMember member = FieldMember::Locales;
+    if (&store == &m_properties)
+        member = FieldMember::Properties;
+    else if (&store == &m_listValues)
+        member = FieldMember::ListValues;
+    notify({*this, member, change.action, change.key, change.oldValue, change.newValue});
+}
+
+void FieldDef::setText(std::string& member, std::string text, FieldMember which) {
+    if (text == member)
+        return;
+    std::string old = std::exchange(member, std::move(text));
+    notify({*this, which, {}, {}, Value(std::move(old)), Value(member)});
+}
+
+void FieldDef::setNumber(std::int32_t& member, std::int32_t number, FieldMember which) {
+    if (number == member)
+        return;
+    const std::int32_t old = std::exchange(member, number);
+    notify({*this, which, {}, {}, Value(old), Value(number)});
+}
+
+void FieldDef::notify(FieldChange change) {
+    if (m_changed)
+        m_changed->emit(change);
+    if (m_collection)
+        m_collection->changed.emit(change);
+}
+
+const char* memberName(FieldMember member) {
+    switch (member) {
+    case FieldMember::Name: return "Name";
+    case FieldMember::Description: return "Description";
+    case FieldMember::DisplayName: return "DisplayName";
+    case FieldMember::FieldType: return "FieldType";
+    case FieldMember::Size: return "Size";
+    case FieldMember::DefaultValue: return "DefaultValue";
+    case FieldMember::Properties: return "Properties";
+    case FieldMember::ListValues: return "ListValues";
+    case FieldMember::ListValuesCommitted: return "CommitListValues";
+    case FieldMember::Locales: return "Locales";
+    case FieldMember::CtrlEdit: return "CtrlEdit";
+    case FieldMember::CtrlReadOnly: return "CtrlReadOnly";
+    case FieldMember::CtrlList: return "CtrlList";
+    case FieldMember::Validation: return "Validation";
+    case FieldMember::CreateOnDemand: return "CreateOnDemand";
+    }
+    return "";
+}
+
+} // namespace morvel

@@ -1,0 +1,50 @@
+#include "fields/text.h"
+
+#include <algorithm>
+
+namespace morvel {
+
+char foldAscii(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+std::string foldedCopy(std::string_view text) {
+    std::string folded(text);
+    std::transform(folded.begin(), folded.end(), folded.begin(), foldAscii);
+    return folded;
+}
+
+bool equalsIgnoringCase(std::string_view a, std::string_view b) {
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(),
+                      [](char x, char y) { return foldAscii(x) == foldAscii(y); });
+}
+
+bool containsIgnoringCase(std::string_view haystack, std::string_view needle) {
+    auto found = std::search(haystack.begin(), haystack.end(), needle.begin(), needle.end(),
+                             [](char x, char y) { return foldAscii(x) == foldAscii(y); });
+    return found != haystack.end() || needle.empty();
+}
+
+int compareIgnoringCase(std::string_view a, std::string_view b) {
+    const std::size_t n = std::min(a.size(), b.size());
+    for (std::size_t i = 0; i < n; ++i) {
+        auto x = static_cast<unsigned char>(foldAscii(a[i]));
+        auto y = static_cast<unsigned char>(foldAscii(b[i]));
+        if (x != y)
+            return x < y ? -1 : 1;
+    }
+    if (a.size() == b.size())
+        return 0;
+    return a.size() < b.size() ? -1 : 1;
+}
+
+std::string_view trimBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    const auto last = text.find_last_not_of(' ');
+    return text.substr(first, last - first + 1);
+}
+
+} // namespace morvel
