@@ -100,30 +100,52 @@ constexpr std::array<TypeName, 41> kTypeNames{{
     {20200, "Text Encrypted"},
 }};
 
-template <std::size_t N>
-bool isOneOf(std::int32_t code, const std::int32_t (&codes)[N]) {
+template <std::size_t N> bool isOneOf(std::int32_t code, const std::int32_t (&codes)[N]) {
     return std::find(std::begin(codes), std::end(codes), code) != std::end(codes);
 }
 
 } // namespace
 
-std::span<const Choice> offeredTypes() { return kOfferedTypes; }
+std::span<const Choice> offeredTypes() {
+    return kOfferedTypes;
+}
 
 std::string_view typeName(std::int32_t code) {
-    auto found = std::lower_bound(kTypeNames.begin(), kTypeNames.end(), code,
-                                  [](const TypeName& entry, std::int32_t c) { return entry.code < c; });
+    auto found =
+        std::lower_bound(kTypeNames.begin(), kTypeNames.end(), code,
+                         [](const TypeName& entry, std::int32_t c) { return entry.code < c; });
     return (found != kTypeNames.end() && found->code == code) ? found->name : "Unknown";
 }
 
-bool isLinkType(std::int32_t code) { return isOneOf(code, {1000, 1001, 1002, 1010, 1011}); }
-bool isDirectLinkType(std::int32_t code) { return isOneOf(code, {1000, 1010}); }
-bool isAdoLinkType(std::int32_t code) { return isOneOf(code, {1001, 1011}); }
-bool isListType(std::int32_t code) { return isOneOf(code, {1100, 1101, 1105, 1106}); }
-bool isBitMaskType(std::int32_t code) { return isOneOf(code, {1105, 1106}); }
-bool isFileLinkType(std::int32_t code) { return isOneOf(code, {2000, 2010, 2020, 2100}); }
-bool isDirectoryType(std::int32_t code) { return isOneOf(code, {3000, 3001}); }
-bool isSystemType(std::int32_t code) { return code >= 10000 && code <= 10009; }
-bool isEncryptedType(std::int32_t code) { return isOneOf(code, {20008, 20200}); }
-bool hasSize(std::int32_t code) { return isOneOf(code, {8, 2110, 20008}); }
+bool isLinkType(std::int32_t code) {
+    return isOneOf(code, {1000, 1001, 1002, 1010, 1011});
+}
+bool isDirectLinkType(std::int32_t code) {
+    return isOneOf(code, {1000, 1010});
+}
+bool isAdoLinkType(std::int32_t code) {
+    return isOneOf(code, {1001, 1011});
+}
+bool isListType(std::int32_t code) {
+    return isOneOf(code, {1100, 1101, 1105, 1106});
+}
+bool isBitMaskType(std::int32_t code) {
+    return isOneOf(code, {1105, 1106});
+}
+bool isFileLinkType(std::int32_t code) {
+    return isOneOf(code, {2000, 2010, 2020, 2100});
+}
+bool isDirectoryType(std::int32_t code) {
+    return isOneOf(code, {3000, 3001});
+}
+bool isSystemType(std::int32_t code) {
+    return code >= 10000 && code <= 10009;
+}
+bool isEncryptedType(std::int32_t code) {
+    return isOneOf(code, {20008, 20200});
+}
+bool hasSize(std::int32_t code) {
+    return isOneOf(code, {8, 2110, 20008});
+}
 
 } // namespace morvel::catalogue

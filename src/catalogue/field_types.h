@@ -43,15 +43,15 @@ std::span<const Choice> offeredTypes();
 std::string_view typeName(std::int32_t code);
 
 // Families of type codes, each named once here.
-bool isLinkType(std::int32_t code);         // 1000, 1001, 1002, 1010, 1011
-bool isDirectLinkType(std::int32_t code);   // 1000, 1010: settings under "zrDirect." keys
-bool isAdoLinkType(std::int32_t code);      // 1001, 1011: settings under "ADO." keys
-bool isListType(std::int32_t code);         // 1100, 1101, 1105, 1106
-bool isBitMaskType(std::int32_t code);      // 1105, 1106
-bool isFileLinkType(std::int32_t code);     // 2000, 2010, 2020, 2100
-bool isDirectoryType(std::int32_t code);    // 3000, 3001
-bool isSystemType(std::int32_t code);       // 10000 to 10009
-bool isEncryptedType(std::int32_t code);    // 20008, 20200
-bool hasSize(std::int32_t code);            // 8, 2110, 20008
+bool isLinkType(std::int32_t code);       // 1000, 1001, 1002, 1010, 1011
+bool isDirectLinkType(std::int32_t code); // 1000, 1010: settings under "zrDirect." keys
+bool isAdoLinkType(std::int32_t code);    // 1001, 1011: settings under "ADO." keys
+bool isListType(std::int32_t code);       // 1100, 1101, 1105, 1106
+bool isBitMaskType(std::int32_t code);    // 1105, 1106
+bool isFileLinkType(std::int32_t code);   // 2000, 2010, 2020, 2100
+bool isDirectoryType(std::int32_t code);  // 3000, 3001
+bool isSystemType(std::int32_t code);     // 10000 to 10009
+bool isEncryptedType(std::int32_t code);  // 20008, 20200
+bool hasSize(std::int32_t code);          // 8, 2110, 20008
 
 } // namespace morvel::catalogue

@@ -12,7 +12,9 @@ constexpr std::array<Choice, 3> kLevels{{
 }};
 } // namespace
 
-std::span<const Choice> validationLevels() { return kLevels; }
+std::span<const Choice> validationLevels() {
+    return kLevels;
+}
 
 std::string_view validationName(std::int32_t code) {
     for (const Choice& level : kLevels)

@@ -39,7 +39,8 @@ public:
 // A handler needed the field shown in the panel, and none is shown.
 class NoCurrentFieldError : public Error {
 public:
-    NoCurrentFieldError() : Error("No field is selected.") {}
+    NoCurrentFieldError()
+        : Error("No field is selected.") {}
 };
 
 // A call that is not valid in the object's present state or with these arguments.

@@ -39,7 +39,9 @@ void FieldDef::SetDisplayName(std::string text) {
 void FieldDef::SetFieldType(std::int32_t code) {
     setNumber(m_fieldType, code, FieldMember::FieldType);
 }
-void FieldDef::SetSize(std::int32_t size) { setNumber(m_size, size, FieldMember::Size); }
+void FieldDef::SetSize(std::int32_t size) {
+    setNumber(m_size, size, FieldMember::Size);
+}
 void FieldDef::SetDefaultValue(std::string text) {
     setText(m_defaultValue, std::move(text), FieldMember::DefaultValue);
 }
@@ -119,21 +121,36 @@ void FieldDef::notify(FieldChange change) {
 
 const char* memberName(FieldMember member) {
     switch (member) {
-    case FieldMember::Name: return "Name";
-    case FieldMember::Description: return "Description";
-    case FieldMember::DisplayName: return "DisplayName";
-    case FieldMember::FieldType: return "FieldType";
-    case FieldMember::Size: return "Size";
-    case FieldMember::DefaultValue: return "DefaultValue";
-    case FieldMember::Properties: return "Properties";
-    case FieldMember::ListValues: return "ListValues";
-    case FieldMember::ListValuesCommitted: return "CommitListValues";
-    case FieldMember::Locales: return "Locales";
-    case FieldMember::CtrlEdit: return "CtrlEdit";
-    case FieldMember::CtrlReadOnly: return "CtrlReadOnly";
-    case FieldMember::CtrlList: return "CtrlList";
-    case FieldMember::Validation: return "Validation";
-    case FieldMember::CreateOnDemand: return "CreateOnDemand";
+    case FieldMember::Name:
+        return "Name";
+    case FieldMember::Description:
+        return "Description";
+    case FieldMember::DisplayName:
+        return "DisplayName";
+    case FieldMember::FieldType:
+        return "FieldType";
+    case FieldMember::Size:
+        return "Size";
+    case FieldMember::DefaultValue:
+        return "DefaultValue";
+    case FieldMember::Properties:
+        return "Properties";
+    case FieldMember::ListValues:
+        return "ListValues";
+    case FieldMember::ListValuesCommitted:
+        return "CommitListValues";
+    case FieldMember::Locales:
+        return "Locales";
+    case FieldMember::CtrlEdit:
+        return "CtrlEdit";
+    case FieldMember::CtrlReadOnly:
+        return "CtrlReadOnly";
+    case FieldMember::CtrlList:
+        return "CtrlList";
+    case FieldMember::Validation:
+        return "Validation";
+    case FieldMember::CreateOnDemand:
+        return "CreateOnDemand";
     }
     return "";
 }

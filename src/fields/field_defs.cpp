@@ -50,7 +50,9 @@ std::int32_t FieldDefs::positionOf(const FieldDef& field) const {
     return found == m_fields.end() ? 0 : static_cast<std::int32_t>(found - m_fields.begin()) + 1;
 }
 
-FieldDefs::FieldPtr FieldDefs::Add(FieldPtr field) { return Insert(Count() + 1, std::move(field)); }
+FieldDefs::FieldPtr FieldDefs::Add(FieldPtr field) {
+    return Insert(Count() + 1, std::move(field));
+}
 
 FieldDefs::FieldPtr FieldDefs::Add(std::string name, std::int32_t fieldType) {
     return Add(std::make_shared<FieldDef>(std::move(name), fieldType));

@@ -19,8 +19,10 @@ struct SlotState {
 class Connection {
 public:
     Connection() = default;
-    explicit Connection(std::weak_ptr<detail::SlotState> slot) : m_slot(std::move(slot)) {}
-    Connection(Connection&& other) noexcept : m_slot(std::exchange(other.m_slot, {})) {}
+    explicit Connection(std::weak_ptr<detail::SlotState> slot)
+        : m_slot(std::move(slot)) {}
+    Connection(Connection&& other) noexcept
+        : m_slot(std::exchange(other.m_slot, {})) {}
     Connection& operator=(Connection&& other) noexcept {
         if (this != &other) {
             disconnect();
@@ -62,8 +64,7 @@ private:
 // A synchronous notification with any number of observers. Emitting is re-entrant: an observer
 // may emit the same signal again, connect new observers (they are called from the next emit on)
 // or disconnect any observer (it is not called again, even later in the same emit).
-template <typename... Args>
-class Signal {
+template <typename... Args> class Signal {
 public:
     Signal() = default;
     Signal(const Signal&) = delete;

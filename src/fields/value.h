@@ -14,10 +14,14 @@ public:
     enum class Kind : std::uint8_t { Empty, Long, Text, Boolean };
 
     Value() = default;
-    Value(std::int32_t number) : m_data(number) {}
-    Value(std::string text) : m_data(std::move(text)) {}
-    Value(const char* text) : m_data(std::string(text)) {}
-    Value(bool flag) : m_data(flag) {}
+    Value(std::int32_t number)
+        : m_data(number) {}
+    Value(std::string text)
+        : m_data(std::move(text)) {}
+    Value(const char* text)
+        : m_data(std::string(text)) {}
+    Value(bool flag)
+        : m_data(flag) {}
     // Other arithmetic types would pick a surprising alternative; say which kind is meant.
     Value(long) = delete;
     Value(unsigned) = delete;

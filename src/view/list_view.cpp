@@ -1,0 +1,192 @@
+#include "view/list_view.h"
+
+#include "fields/error.h"
+#include "fields/text.h"
+
+#include <algorithm>
+
+namespace morvel::view {
+
+ListView::~ListView() = default;
+
+void ListView::addColumn(std::string key, std::string text, std::int32_t width) {
+    m_columns.push_back({std::move(key), std::move(text), width});
+    notify(Property::Columns);
+}
+
+const ColumnHeader& ListView::column(std::int32_t index) const {
+    if (index < 1 || index > columnCount())
+        throw NotFoundError("The list \"" + name() + "\" has no column " + std::to_string(index) +
+                            ".");
+    return m_columns[static_cast<std::size_t>(index - 1)];
+}
+
+std::int32_t ListView::columnIndex(std::string_view key) const {
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (m_columns[i].key == key)
+            return static_cast<std::int32_t>(i) + 1;
+    throw NotFoundError("The list \"" + name() + "\" has no column \"" + std::string(key) + "\".");
+}
+
+ListItem& ListView::add(std::string key, std::string text) {
+    if (m_byKey.contains(key))
+        throw DuplicateKeyError("The list \"" + name() + "\" has a row with the key \"" + key +
+                                "\" already.");
+    auto row = std::make_unique<ListItem>(*this, std::move(key), std::move(text));
+    ListItem& item = *row;
+    const std::size_t place = m_sorted ? sortedPlace(item) : m_rows.size();
+    m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(place), std::move(row));
+    item.m_position = static_cast<std::int32_t>(place);
+    if (place + 1 == m_rows.size() && m_numberedUpTo == place)
+        m_numberedUpTo = m_rows.size();
+    else
+        m_numberedUpTo = std::min(m_numberedUpTo, place);
+    m_byKey.emplace(item.m_key, &item);
+    emitRows(ListChange::Kind::Inserted, static_cast<std::int32_t>(place));
+    return item;
+}
+
+void ListView::remove(std::string_view key) {
+    ListItem& row = item(key);
+    const std::int32_t position = positionOf(row);
+    if (m_selected == &row) {
+        m_selected = nullptr;
+        emitRows(ListChange::Kind::SelectionChanged, -1);
+    }
+    m_byKey.erase(row.m_key);
+    m_rows.erase(m_rows.begin() + position);
+    m_numberedUpTo = std::min(m_numberedUpTo, static_cast<std::size_t>(position));
+    emitRows(ListChange::Kind::Removed, position);
+}
+
+void ListView::clear() {
+    m_selected = nullptr;
+    m_byKey.clear();
+    m_rows.clear();
+    m_numberedUpTo = 0;
+    emitRows(ListChange::Kind::Reset, -1, 0);
+}
+
+ListItem* ListView::find(std::string_view key) const {
+    auto found = m_byKey.find(key);
+    return found == m_byKey.end() ? nullptr : found->second;
+}
+
+ListItem& ListView::item(std::string_view key) const {
+    if (ListItem* row = find(key))
+        return *row;
+    throw NotFoundError("The list \"" + name() + "\" has no row with the key \"" +
+                        std::string(key) + "\".");
+}
+
+ListItem& ListView::item(std::int32_t index) const {
+    if (index < 1 || index > count())
+        throw NotFoundError("The list \"" + name() + "\" has no row " + std::to_string(index) +
+                            ".");
+    return *m_rows[static_cast<std::size_t>(index - 1)];
+}
+
+void ListView::setSelectedItem(ListItem* item) {
+    if (item == m_selected)
+        return;
+    m_selected = item;
+    emitRows(ListChange::Kind::SelectionChanged, item ? positionOf(*item) : -1);
+}
+
+void ListView::ensureVisible(const ListItem& item) {
+    emitRows(ListChange::Kind::EnsureVisible, positionOf(item));
+}
+
+void ListView::startLabelEdit(const ListItem& item) {
+    emitRows(ListChange::Kind::LabelEditStarted, positionOf(item));
+}
+
+void ListView::setSorted(bool sorted) {
+    m_sorted = sorted;
+    if (!sorted)
+        return;
+    std::stable_sort(m_rows.begin(), m_rows.end(), [this](const auto& a, const auto& b) {
+        const int order = compareIgnoringCase(sortText(*a), sortText(*b));
+        return m_sortAscending ? order < 0 : order > 0;
+    });
+    m_numberedUpTo = 0;
+    emitRows(ListChange::Kind::Reset, -1, 0);
+}
+
+bool ListView::clickItem(ListItem& item) {
+    if (!focusable())
+        return false;
+    setFocus();
+    setSelectedItem(&item);
+    ItemClick.emit(item);
+    Click.emit();
+    return true;
+}
+
+bool ListView::keyDown(std::int32_t keyCode, std::int32_t shift) {
+    if (!focusable())
+        return false;
+    KeyDown.emit(keyCode, shift);
+    return true;
+}
+
+bool ListView::editLabel(ListItem& item, std::string text) {
+    bool cancel = false;
+    AfterLabelEdit.emit(item, text, cancel);
+    if (cancel)
+        return false;
+    item.setText(std::move(text));
+    return true;
+}
+
+void ListView::rekey(ListItem& item, std::string key) {
+    if (m_byKey.contains(key))
+        throw DuplicateKeyError("The list \"" + name() + "\" has a row with the key \"" + key +
+                                "\" already.");
+    // The index key views the row's own key: take the entry out before the key changes.
+    auto entry = m_byKey.extract(std::string_view(item.m_key));
+    item.m_key = std::move(key);
+    entry.key() = item.m_key;
+    m_byKey.insert(std::move(entry));
+}
+
+void ListView::cellChanged(const ListItem& item, std::int32_t column) {
+    if (rowsChanged.empty())
+        return;
+    ListChange change{ListChange::Kind::CellChanged, positionOf(item), column, 1};
+    rowsChanged.emit(change);
+}
+
+void ListView::renumber() const {
+    for (std::size_t i = m_numberedUpTo; i < m_rows.size(); ++i)
+        m_rows[i]->m_position = static_cast<std::int32_t>(i);
+    m_numberedUpTo = m_rows.size();
+}
+
+std::int32_t ListView::positionOf(const ListItem& item) const {
+    if (static_cast<std::size_t>(item.m_position) >= m_numberedUpTo)
+        renumber();
+    return item.m_position;
+}
+
+std::size_t ListView::sortedPlace(const ListItem& item) const {
+    auto place = std::upper_bound(
+        m_rows.begin(), m_rows.end(), &item, [this](const ListItem* value, const auto& row) {
+            const int order = compareIgnoringCase(sortText(*value), sortText(*row));
+            return m_sortAscending ? order < 0 : order > 0;
+        });
+    return static_cast<std::size_t>(place - m_rows.begin());
+}
+
+const std::string& ListView::sortText(const ListItem& item) const {
+    return m_sortKey == 0 ? item.text() : item.subItem(m_sortKey);
+}
+
+void ListView::emitRows(ListChange::Kind kind, std::int32_t row, std::int32_t count) {
+    if (rowsChanged.empty())
+        return;
+    ListChange change{kind, row, -1, count};
+    rowsChanged.emit(change);
+}
+
+} // namespace morvel::view

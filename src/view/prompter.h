@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace morvel::view {
+
+enum class MsgBoxButtons : std::uint8_t { OK, OKCancel, YesNo, YesNoCancel };
+enum class MsgBoxIcon : std::uint8_t { None, Critical, Question, Exclamation, Information };
+enum class MsgBoxResult : std::uint8_t { OK, Cancel, Yes, No };
+
+// An empty title means the application's own title.
+struct MessageBoxRequest {
+    std::string prompt;
+    MsgBoxButtons buttons = MsgBoxButtons::OK;
+    MsgBoxIcon icon = MsgBoxIcon::None;
+    std::string title;
+};
+
+struct InputBoxRequest {
+    std::string prompt;
+    std::string title;
+    std::string defaultText;
+};
+
+// Modal message and input boxes, provided by the host: real dialogs in the Qt front end, a
+// scripted answerer in tests.
+class Prompter {
+public:
+    virtual ~Prompter() = default;
+    virtual MsgBoxResult messageBox(const MessageBoxRequest& request) = 0;
+    // The typed text; Cancel gives the empty text.
+    virtual std::string inputBox(const InputBoxRequest& request) = 0;
+};
+
+} // namespace morvel::view
