@@ -1,0 +1,109 @@
+#include "fields/error.h"
+#include "view/form.h"
+#include "view/list_view.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace morvel::view {
+namespace {
+
+class ListViewTest : public ::testing::Test {
+protected:
+    ListViewTest() {
+        list.addColumn("Name", "Field Name", 2540);
+        list.addColumn("Type", "Field Type", 2540);
+        changes = list.rowsChanged.connect([this](const ListChange& c) { seen.push_back(c); });
+    }
+    std::string keys() const {
+        std::string out;
+        for (int i = 1; i <= list.count(); ++i)
+            out += list.item(i).key() + "@" + std::to_string(list.item(i).index()) + " ";
+        return out;
+    }
+
+    Form form{"f"};
+    ListView list{&form, "lst"};
+    std::vector<ListChange> seen;
+    Connection changes;
+};
+
+TEST_F(ListViewTest, KeysAreUniqueAndCaseExact) {
+    list.add("Name", "Name");
+    list.add("name", "name");
+    EXPECT_THROW(list.add("Name", "again"), DuplicateKeyError);
+    EXPECT_EQ(list.find("NAME"), nullptr);
+    EXPECT_THROW(list.item("NAME"), NotFoundError);
+    EXPECT_EQ(list.count(), 2);
+}
+
+TEST_F(ListViewTest, PositionsStayRightAfterRemovalsAnywhere) {
+    for (const char* key : {"a", "b", "c", "d", "e"})
+        list.add(key, key);
+    list.remove("b");
+    list.remove("e");
+    list.add("f", "f");
+    EXPECT_EQ(keys(), "a@1 c@2 d@3 f@4 ");
+    EXPECT_EQ(list.find("d")->index(), 3);
+}
+
+TEST_F(ListViewTest, RekeyingARowKeepsTheIndexRightForShortAndLongKeys) {
+    ListItem& row = list.add("short", "short");
+    row.setKey("a key that is far longer than any small buffer");
+    EXPECT_EQ(list.find("short"), nullptr);
+    EXPECT_EQ(list.find("a key that is far longer than any small buffer"), &row);
+    row.setKey("s");
+    EXPECT_EQ(list.find("s"), &row);
+    list.add("other", "other");
+    EXPECT_THROW(row.setKey("other"), DuplicateKeyError);
+    EXPECT_EQ(row.key(), "s");
+}
+
+TEST_F(ListViewTest, ObserversHearWhichRowAndCellChanged) {
+    list.add("a", "a");
+    ListItem& b = list.add("b", "b");
+    seen.clear();
+    b.setSubItem(1, "Link");
+    b.setSubItem(1, "Link");
+    list.setSelectedItem(&b);
+    list.remove("a");
+    ASSERT_EQ(seen.size(), 3u);
+    EXPECT_EQ(seen[0].kind, ListChange::Kind::CellChanged);
+    EXPECT_EQ(seen[0].row, 1);
+    EXPECT_EQ(seen[0].column, 1);
+    EXPECT_EQ(seen[1].kind, ListChange::Kind::SelectionChanged);
+    EXPECT_EQ(seen[2].kind, ListChange::Kind::Removed);
+    EXPECT_EQ(seen[2].row, 0);
+    EXPECT_THROW(b.setSubItem(2, "x"), NotFoundError) << "only one column beyond the text";
+}
+
+TEST_F(ListViewTest, RemovingTheSelectedRowClearsTheSelection) {
+    ListItem& a = list.add("a", "a");
+    list.setSelectedItem(&a);
+    list.remove("a");
+    EXPECT_EQ(list.selectedItem(), nullptr);
+}
+
+TEST_F(ListViewTest, SortedListPlacesRowsByTheSortColumnIgnoringCase) {
+    list.setSortKey(0);
+    list.add("I3", "banana");
+    list.add("I1", "Apple");
+    list.setSorted(true);
+    EXPECT_EQ(list.item(1).key(), "I1");
+    list.add("I2", "apricot");
+    EXPECT_EQ(keys(), "I1@1 I2@2 I3@3 ");
+}
+
+TEST_F(ListViewTest, LabelEditCanBeCancelledByTheHandler) {
+    ListItem& row = list.add("I1", "New Item");
+    auto veto = list.AfterLabelEdit.connect(
+        [](ListItem&, const std::string& text, bool& cancel) { cancel = text.empty(); });
+    EXPECT_FALSE(list.editLabel(row, ""));
+    EXPECT_EQ(row.text(), "New Item");
+    EXPECT_TRUE(list.editLabel(row, "Red"));
+    EXPECT_EQ(row.text(), "Red");
+}
+
+} // namespace
+} // namespace morvel::view
