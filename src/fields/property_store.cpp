@@ -1,11 +1,43 @@
 #include "fields/property_store.h"
 
+#include <unordered_map>
 #include <utility>
 
 namespace morvel {
 
+struct PropertyStore::Entries {
+    std::list<ListEntry> list;
+    // Keys view the key strings of the entries, which list nodes keep in place.
+    std::unordered_map<std::string_view, std::list<ListEntry>::iterator> index;
+};
+
+namespace {
+const std::list<ListEntry> kNoEntries;
+}
+
+PropertyStore::PropertyStore() = default;
+PropertyStore::~PropertyStore() = default;
+
+std::int32_t PropertyStore::Count() const {
+    return m_entries ? static_cast<std::int32_t>(m_entries->list.size()) : 0;
+}
+
+PropertyStore::const_iterator PropertyStore::begin() const {
+    return m_entries ? m_entries->list.cbegin() : kNoEntries.cbegin();
+}
+
+PropertyStore::const_iterator PropertyStore::end() const {
+    return m_entries ? m_entries->list.cend() : kNoEntries.cend();
+}
+
 bool PropertyStore::SetValue(std::string_view key, Value value, bool addIfMissing) {
-    if (auto found = m_index.find(key); found != m_index.end()) {
+    if (!m_entries) {
+        if (!addIfMissing && !m_rewriting)
+            return false;
+        m_entries = std::make_unique<Entries>();
+    }
+    auto& index = m_entries->index;
+    if (auto found = index.find(key); found != index.end()) {
         Value& stored = found->second->Value;
         if (stored == value)
             return true;
@@ -15,41 +47,45 @@ bool PropertyStore::SetValue(std::string_view key, Value value, bool addIfMissin
     }
     if (!addIfMissing && !m_rewriting)
         return false;
-    auto entry = m_entries.insert(m_entries.end(), ListEntry{std::string(key), std::move(value)});
-    m_index.emplace(entry->Key, entry);
+    auto& list = m_entries->list;
+    auto entry = list.insert(list.end(), ListEntry{std::string(key), std::move(value)});
+    index.emplace(entry->Key, entry);
     notify({StoreChange::Action::Added, entry->Key, Value(), entry->Value});
     return true;
 }
 
 Value PropertyStore::GetValue(std::string_view key, Value defaultValue) const {
-    if (auto found = m_index.find(key); found != m_index.end())
-        return found->second->Value;
+    if (const ListEntry* entry = Lookup(key))
+        return entry->Value;
     return defaultValue;
 }
 
 const ListEntry* PropertyStore::Lookup(std::string_view key) const {
-    auto found = m_index.find(key);
-    return found == m_index.end() ? nullptr : &*found->second;
+    if (!m_entries)
+        return nullptr;
+    auto found = m_entries->index.find(key);
+    return found == m_entries->index.end() ? nullptr : &*found->second;
 }
 
 void PropertyStore::Remove(std::string_view key) {
-    auto found = m_index.find(key);
-    if (found == m_index.end())
+    if (!m_entries)
+        return;
+    auto found = m_entries->index.find(key);
+    if (found == m_entries->index.end())
         return;
     auto entry = found->second;
-    m_index.erase(found);
+    m_entries->index.erase(found);
     StoreChange change{StoreChange::Action::Removed, std::move(entry->Key), std::move(entry->Value),
                        Value()};
-    m_entries.erase(entry);
+    m_entries->list.erase(entry);
     notify(std::move(change));
 }
 
 void PropertyStore::Clear() {
     m_rewriting = true;
-    if (m_entries.empty())
+    if (!m_entries || m_entries->list.empty())
         return;
-    m_index.clear();
-    m_entries.clear();
+    m_entries.reset();
     notify({StoreChange::Action::Cleared, {}, Value(), Value()});
 }
 

@@ -6,8 +6,8 @@
 
 #include <cstdint>
 #include <list>
+#include <memory>
 #include <string_view>
-#include <unordered_map>
 
 namespace morvel {
 
@@ -24,7 +24,9 @@ class PropertyStore {
 public:
     using const_iterator = std::list<ListEntry>::const_iterator;
 
-    PropertyStore() = default;
+    PropertyStore();
+    ~PropertyStore();
+
     PropertyStore(const PropertyStore&) = delete;
     PropertyStore& operator=(const PropertyStore&) = delete;
 
@@ -35,10 +37,10 @@ public:
     // Removing an absent key does nothing.
     void Remove(std::string_view key);
     void Clear();
-    std::int32_t Count() const { return static_cast<std::int32_t>(m_entries.size()); }
+    std::int32_t Count() const;
 
-    const_iterator begin() const { return m_entries.begin(); }
-    const_iterator end() const { return m_entries.end(); }
+    const_iterator begin() const;
+    const_iterator end() const;
 
     bool rewriting() const { return m_rewriting; }
     void endRewrite() { m_rewriting = false; }
@@ -49,9 +51,9 @@ public:
 private:
     void notify(StoreChange change) const;
 
-    std::list<ListEntry> m_entries;
-    // Keys view the key strings of the entries, which list nodes keep in place.
-    std::unordered_map<std::string_view, std::list<ListEntry>::iterator> m_index;
+    // Most fields leave most of their three stores empty: the entries are made on the first write.
+    struct Entries;
+    std::unique_ptr<Entries> m_entries;
     StoreObserver* m_observer = nullptr;
     bool m_rewriting = false;
 };
