@@ -97,7 +97,8 @@ void verify(SqliteConnection& connection) {
 
 void configure(SqliteConnection& connection) {
     // Two designers may save into one file; the second waits for the first instead of failing.
-    connection.exec("PRAGMA busy_timeout = 5000; PRAGMA foreign_keys = ON;");
+    connection.exec(
+        "PRAGMA busy_timeout = 5000; PRAGMA foreign_keys = ON; PRAGMA cache_size = -65536;");
 }
 
 } // namespace morvel::schema
