@@ -21,6 +21,15 @@ const ColumnHeader& ListView::column(std::int32_t index) const {
     return m_columns[static_cast<std::size_t>(index - 1)];
 }
 
+void ListView::setColumnWidth(std::int32_t index, std::int32_t width) {
+    column(index);
+    auto& header = m_columns[static_cast<std::size_t>(index - 1)];
+    if (header.width == width)
+        return;
+    header.width = width;
+    notify(Property::Columns);
+}
+
 std::int32_t ListView::columnIndex(std::string_view key) const {
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         if (m_columns[i].key == key)

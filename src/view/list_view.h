@@ -49,6 +49,8 @@ public:
     std::int32_t columnCount() const { return static_cast<std::int32_t>(m_columns.size()); }
     // 1-based.
     const ColumnHeader& column(std::int32_t index) const;
+    // Width in hundredths of a millimetre; tells observers that the columns changed.
+    void setColumnWidth(std::int32_t index, std::int32_t width);
     // The 1-based index of the column with that key; throws NotFoundError when there is none.
     std::int32_t columnIndex(std::string_view key) const;
 
