@@ -11,10 +11,9 @@ namespace morvel::testing {
 inline std::string storeSnapshot(const PropertyStore& store) {
     std::string out;
     for (const ListEntry& entry : store) {
-        const Value& value = entry.Value;
-        const std::string shown = value.toText();
-        out += (out.empty() ? "" : ";") + entry.Key + "=" +
-               (value.kind() == Value::Kind::Text ? "\"" + shown + "\"" : shown);
+        const bool text = entry.Value.kind() == Value::Kind::Text;
+        out += (out.empty() ? "" : ";") + entry.Key + "=" + (text ? "\"" : "") +
+               entry.Value.toText() + (text ? "\"" : "");
     }
     return out;
 }
