@@ -143,8 +143,6 @@ std::string Morvel::LoadTypePage(morvel::FieldDef& field) {
     if (catalogue::isDirectLinkType(code)) {
         chkLinkParent.setVisible(code == type::Link);
         txtObjectType.setText(stored.text("zrDirect.OT"));
-        // The box's Change may not fire when its text is already the stored one.
-        ShowLinkControlsFor(FieldUtility::ToLong(std::string_view(txtObjectType.text())));
         txtCoreFilter.setText(stored.text("zrDirect.Q"));
         txtAdditionalFilter.setText(stored.text("zrDirect.IQ"));
         txtStatus.setText(stored.text("zrDirect.S"));
@@ -156,6 +154,9 @@ std::string Morvel::LoadTypePage(morvel::FieldDef& field) {
         txtLinkTableName.setText(table);
         LoadLinkTableList();
         cboLinkTableName.setText(table);
+        // Applied last: the box's Change may not fire when its text is already the stored one,
+        // and the first table look-up shows a table box even for a link to objects.
+        ShowLinkControlsFor(FieldUtility::ToLong(std::string_view(txtObjectType.text())));
         // True is stored as a Boolean; a Long -1 means the same.
         chkLinkParent.setValue(stored.number("Lnk.Parent", false) == -1 ? 1 : 0);
         return "Link Properties";

@@ -320,7 +320,6 @@ void frmLocale::cmdClose_Click() {
 }
 
 void frmLocale::AdjustColumnWidth(view::ListView& poListView, bool pAccountForHeaders) {
-    m_columnWidths.clear();
     for (std::int32_t column = 1; column <= poListView.columnCount(); ++column) {
         std::int32_t width =
             pAccountForHeaders ? estimatedWidth(poListView.column(column).text) : 0;
@@ -329,7 +328,7 @@ void frmLocale::AdjustColumnWidth(view::ListView& poListView, bool pAccountForHe
             const std::string& text = column == 1 ? item.text() : item.subItem(column - 1);
             width = std::max(width, estimatedWidth(text));
         }
-        m_columnWidths.push_back(width);
+        poListView.setColumnWidth(column, width);
     }
 }
 

@@ -32,12 +32,8 @@ public:
     void ShowForm(std::shared_ptr<morvel::FieldDef> poFieldDef);
 
     // Sizes every column of the list to its contents (and its header text when
-    // pAccountForHeaders), estimated from the texts. The widths are kept in columnWidths() for
-    // the front end to apply, since a list view's columns keep their design widths.
+    // pAccountForHeaders), estimated from the texts.
     void AdjustColumnWidth(view::ListView& poListView, bool pAccountForHeaders);
-    // The widths (hundredths of a millimetre) that the last AdjustColumnWidth computed, column by
-    // column; empty before.
-    const std::vector<std::int32_t>& columnWidths() const { return m_columnWidths; }
 
     // Controls, by name.
     view::ListView lstLocale;
@@ -83,7 +79,6 @@ private:
     view::Prompter& m_prompter;
     view::ModalHost& m_modalHost;
     std::shared_ptr<morvel::FieldDef> m_fieldDef;
-    std::vector<std::int32_t> m_columnWidths;
     // Set while code puts text into the boxes: their change events are then not the person's
     // typing, and the typing handlers are not run.
     bool m_showingText = false;

@@ -129,5 +129,15 @@ TEST_F(Loading, TheLinkPageFollowsTheObjectTypeEvenWhenItsBoxKeepsItsText) {
     EXPECT_TRUE(designer.txtCoreFilter.visible());
 }
 
+TEST_F(Loading, AFirstLinkToObjectsShowsNoTableBoxAfterTheTableLookUp) {
+    // The first showing runs the table look-up, which on its own would show a table box.
+    attachDatabase();
+    auto defs = std::make_shared<FieldDefs>();
+    defs->Add("Owner", 1000)->Properties().SetValue("zrDirect.OT", 7, true);
+    designer.SetFieldDefs(defs);
+    EXPECT_TRUE(designer.txtCoreFilter.visible());
+    EXPECT_FALSE(designer.cboLinkTableName.visible() || designer.txtLinkTableName.visible());
+}
+
 } // namespace
 } // namespace morvel::testing
