@@ -103,7 +103,16 @@ void Morvel::wireEvents() {
     on(cboEncryptionKeyLen.Click, &Morvel::cboEncryptionKeyLen_Click);
 }
 
+void Morvel::leaveFocusedBox() {
+    view::Control* focusedControl = focused();
+    if (!focusedControl || focusedControl == &lst)
+        return;
+    if (!lst.setFocus())
+        clearFocus();
+}
+
 void Morvel::SetFieldDefs(FieldDefsPtr poFieldDefs) {
+    leaveFocusedBox();
     // Dropping the old subscriptions first: from now on only the new collection is heard.
     m_collectionWiring.clear();
     moFieldDefs = std::move(poFieldDefs);

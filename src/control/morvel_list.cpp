@@ -75,6 +75,7 @@ void Morvel::ShowSelectedRow() {
 void Morvel::moFieldDefs_AfterAdd(const FieldDefPtr& eoFieldDef) {
     if (lst.find(eoFieldDef->Name()))
         return;
+    leaveFocusedBox();
     view::ListItem& row = lst.add(eoFieldDef->Name(), eoFieldDef->Name());
     RowCells(lst).fill(row, *eoFieldDef);
     lst.setSelectedItem(&row);
@@ -87,20 +88,22 @@ void Morvel::moFieldDefs_AfterAdd(const FieldDefPtr& eoFieldDef) {
 }
 
 void Morvel::moFieldDefs_AfterRemove(const FieldDefPtr& eoFieldDef) {
-    view::skipFailingSteps(
-        [&] {
-            view::ListItem& row = lst.item(eoFieldDef->Name());
-            // The row goes away; nothing may point at it until the selection routine runs.
-            if (m_currentRow == &row)
-                m_currentRow = nullptr;
-            lst.remove(eoFieldDef->Name());
-        },
-        [&] { lst.setSelectedItem(nullptr); }, [&] { lst.setSelectedItem(&lst.item(1)); },
-        [&] {
-            if (view::ListItem* selected = lst.selectedItem())
-                lst.ensureVisible(*selected);
-        },
-        [&] { ShowSelectedRow(); });
+    view::skipFailingSteps([&] { leaveFocusedBox(); },
+                           [&] {
+                               view::ListItem& row = lst.item(eoFieldDef->Name());
+                               // The row goes away; nothing may point at it until the selection
+                               // routine runs.
+                               if (m_currentRow == &row)
+                                   m_currentRow = nullptr;
+                               lst.remove(eoFieldDef->Name());
+                           },
+                           [&] { lst.setSelectedItem(nullptr); },
+                           [&] { lst.setSelectedItem(&lst.item(1)); },
+                           [&] {
+                               if (view::ListItem* selected = lst.selectedItem())
+                                   lst.ensureVisible(*selected);
+                           },
+                           [&] { ShowSelectedRow(); });
 }
 
 void Morvel::lst_ItemClick(view::ListItem&) {

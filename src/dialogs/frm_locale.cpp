@@ -38,6 +38,12 @@ bool startsWith(std::string_view text, std::string_view prefix) {
     return text.substr(0, prefix.size()) == prefix;
 }
 
+// The text from the 0-based position on; empty when the text is shorter, so that a stray short
+// key in a store reads as an empty locale rather than failing.
+std::string from(const std::string& text, std::size_t position) {
+    return position < text.size() ? text.substr(position) : std::string();
+}
+
 // The locale number N of a row: its key without the leading "K", as a whole number.
 std::string localeOf(const view::ListItem& item) {
     return std::to_string(FieldUtility::ToLong(std::string_view(item.key()).substr(1)));
@@ -206,7 +212,7 @@ void frmLocale::LoadLocales() {
     for (const ListEntry& entry : locales) {
         if (!startsWith(entry.Key, "DN"))
             continue;
-        const std::string n = entry.Key.substr(2);
+        const std::string n = from(entry.Key, 2);
         lstLocale.add("K" + n, n).setSubItem(1, entry.Value.toText());
     }
     for (std::int32_t i = 1; i <= lstLocale.count(); ++i) {
@@ -216,7 +222,7 @@ void frmLocale::LoadLocales() {
 
     if (lstLocale.count() == 0 && locales.Count() != 0) {
         for (const ListEntry& entry : locales) {
-            const std::string n = entry.Key.substr(1);
+            const std::string n = from(entry.Key, 1);
             lstLocale.add("K" + n, n).setSubItem(2, entry.Value.toText());
         }
     }
@@ -225,7 +231,7 @@ void frmLocale::LoadLocales() {
         for (const ListEntry& entry : target.Properties()) {
             if (!startsWith(entry.Key, "LDN"))
                 continue;
-            const std::string n = entry.Key.substr(3);
+            const std::string n = from(entry.Key, 3);
             lstLocale.add("K" + n, n);
         }
     }

@@ -8,8 +8,12 @@
 #include "store/store_error.h"
 #include "store/transaction.h"
 
+#include <array>
+#include <cstdint>
+#include <fstream>
 #include <limits>
 #include <sqlite3.h>
+#include <string_view>
 
 namespace morvel {
 
@@ -38,6 +42,33 @@ void verifyReadOnly(const std::filesystem::path& path) {
     }
 }
 
+// A save killed half way leaves a hot journal, and only a connection that may write can roll it
+// back; until then a read-only look finds the file unreadable. When the file's header carries our
+// application id, the roll-back is the recovery SQLite itself makes on a writable open, and the
+// check that follows judges the restored file. Any other file keeps its journal and its bytes.
+bool isOursWithHotJournal(const std::filesystem::path& path) {
+    std::error_code error;
+    const std::filesystem::path journal = path.string() + "-journal";
+    if (!std::filesystem::exists(journal, error) || std::filesystem::file_size(journal, error) == 0)
+        return false;
+    std::array<char, 100> header{};
+    std::ifstream file(path, std::ios::binary);
+    if (!file.read(header.data(), header.size()))
+        return false;
+    constexpr std::string_view kMagic("SQLite format 3\0", 16);
+    if (std::string_view(header.data(), kMagic.size()) != kMagic)
+        return false;
+    std::uint32_t id = 0;
+    for (std::size_t i = 68; i < 72; ++i)
+        id = (id << 8) | static_cast<unsigned char>(header[i]);
+    return id == static_cast<std::uint32_t>(schema::kApplicationId);
+}
+
+void rollBackHotJournal(const std::filesystem::path& path) {
+    SqliteConnection recovery(path, SqliteConnection::Mode::ReadWrite);
+    recovery.exec("SELECT count(*) FROM sqlite_master;");
+}
+
 } // namespace
 
 SchemaDatabase::SchemaDatabase(const std::filesystem::path& path) {
@@ -52,6 +83,8 @@ SchemaDatabase::SchemaDatabase(const std::filesystem::path& path) {
         schema::create(*m_connection);
         m_created = true;
     } else {
+        if (isOursWithHotJournal(path))
+            rollBackHotJournal(path);
         verifyReadOnly(path);
         m_connection = std::make_unique<SqliteConnection>(path, SqliteConnection::Mode::ReadWrite);
     }

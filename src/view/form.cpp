@@ -42,6 +42,14 @@ bool Form::setFocusTo(Control& control) {
     return m_focused == &control;
 }
 
+void Form::clearFocus() {
+    Control* previous = std::exchange(m_focused, nullptr);
+    if (!previous)
+        return;
+    previous->changed.emit(Property::Focus);
+    previous->LostFocus.emit();
+}
+
 void Form::forget(const Control& control) {
     if (m_focused == &control)
         m_focused = nullptr;

@@ -24,6 +24,8 @@ public:
     Control* focused() const { return m_focused; }
     // Moves the focus: LostFocus on the control that had it, then GotFocus on the new one.
     bool setFocusTo(Control& control);
+    // Takes the focus from whichever control has it, raising its LostFocus.
+    void clearFocus();
     // Forgets a control that goes away, without events.
     void forget(const Control& control);
 
