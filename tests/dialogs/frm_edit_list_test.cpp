@@ -32,6 +32,7 @@ protected:
     void drive(std::function<void()> steps) {
         host.setScript([&](view::Form&) { steps(); });
         host.showModal(form);
+        host.setScript({});
     }
     // Answers the input box, and the question that may follow it.
     void addSpecific(std::string answer, MsgBoxResult question = MsgBoxResult::No) {
