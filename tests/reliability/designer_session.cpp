@@ -310,6 +310,10 @@ std::optional<std::string> DesignerSession::apply(const Event& event) {
     const bool oddLocales = event.kind == Event::Kind::EditLocales && d.SelectedFieldDef() &&
                             !wellFormedLocales(*d.SelectedFieldDef());
     bool completed = false;
+    const auto shownBefore = d.SelectedFieldDef();
+    m_written.clear();
+    m_writtenOnLeave = 0;
+    m_firstWrite.clear();
     try {
         if (auto broken = run(event))
             return broken;
@@ -332,6 +336,8 @@ std::optional<std::string> DesignerSession::apply(const Event& event) {
         return std::string("unexpected ") + typeid(error).name() + ": " + error.what();
     }
     markPending(event, completed);
+    if (auto broken = checkWrites(event, shownBefore.get()))
+        return broken;
     if (auto broken = checkDesigner(d, m_fields.get(), m_pending))
         return "invariant broken: " + *broken;
     return std::nullopt;
@@ -354,6 +360,44 @@ void DesignerSession::markPending(const Event& event, bool completed) {
     for (const std::string& name : kStoredOnLeave)
         if (m_pending.contains(name) && m_designer->focused() != m_controls.at(name))
             m_pending.erase(name);
+}
+
+void DesignerSession::watchWrites() {
+    m_writeWatch = m_fields->changed.connect([this](const FieldChange& change) {
+        if (m_written.empty())
+            m_firstWrite = std::string(memberName(change.member)) + " " + change.key + " = \"" +
+                           change.newValue.toText() + "\"";
+        m_written.push_back(&change.field);
+        static const std::set<std::string> kKeysStoredOnLeave{
+            "SubLnk.Tbl", "SubLnk.PID", "SubLnk.DN", "SubLnk.OB", "Sign.Flds"};
+        if (change.member == FieldMember::CtrlEdit || change.member == FieldMember::CtrlReadOnly ||
+            (change.member == FieldMember::Properties && kKeysStoredOnLeave.contains(change.key)))
+            ++m_writtenOnLeave;
+    });
+}
+
+std::optional<std::string> DesignerSession::checkWrites(const Event& event,
+                                                        const FieldDef* shown) const {
+    using Kind = Event::Kind;
+    const bool byHost = event.kind == Kind::HostAdd || event.kind == Kind::HostRemove ||
+                        event.kind == Kind::HostReplace || event.kind == Kind::HostCanModify ||
+                        event.kind == Kind::HostDatabase;
+    // Known fault, shown by focus_commit_test: a field added by the host is loaded before the
+    // focus moves into the name box, so a box of the previous page that stores on leaving writes
+    // into the added field. Counted, not failed, so that the run goes on checking the rest; drop
+    // this once the designer commits the focused box before it shows the added field.
+    if (event.kind == Kind::HostAdd && m_writtenOnLeave == m_written.size()) {
+        m_strayCommits += m_written.size();
+        return std::nullopt;
+    }
+    for (const FieldDef* field : m_written) {
+        if (byHost)
+            return "the host's change wrote to field \"" + field->Name() + "\": " + m_firstWrite;
+        if (field != shown)
+            return "a write went to field \"" + field->Name() +
+                   "\", which was not shown: " + m_firstWrite;
+    }
+    return std::nullopt;
 }
 
 std::optional<std::string> DesignerSession::run(const Event& event) {
@@ -429,6 +473,7 @@ std::optional<std::string> DesignerSession::run(const Event& event) {
         return std::nullopt;
     case Kind::HostReplace:
         m_fields = randomCollection(event.seed, event.number);
+        watchWrites();
         d.SetFieldDefs(m_fields);
         m_pending.clear();
         return std::nullopt;

@@ -34,6 +34,8 @@ public:
 
     std::uint64_t allowedErrors() const { return m_allowedErrors; }
     std::uint64_t dialogSteps() const { return m_dialogSteps; }
+    // Writes of the known fault that a host's addition commits a box into the added field.
+    std::uint64_t strayCommits() const { return m_strayCommits; }
 
 private:
     struct DialogOutcome;
@@ -48,6 +50,10 @@ private:
     // Marks what the event leaves legitimately different from the stored values until the next
     // load: typed text not yet committed, picked suggestions not yet stored.
     void markPending(const Event& event, bool completed);
+    // Showing a field never writes to it, and a person's event writes only to the field that was
+    // shown when it began.
+    std::optional<std::string> checkWrites(const Event& event, const FieldDef* shown) const;
+    void watchWrites();
 
     view::ScriptedPrompter m_prompter;
     view::ScriptedModalHost m_modalHost;
@@ -58,6 +64,12 @@ private:
     // Controls whose shown value may differ from the stored one until the panel loads again.
     std::set<std::string> m_pending;
     Connection m_loadWatch;
+    // Every field that a write changed during the event being applied.
+    Connection m_writeWatch;
+    std::vector<const FieldDef*> m_written;
+    std::size_t m_writtenOnLeave = 0;
+    mutable std::uint64_t m_strayCommits = 0;
+    std::string m_firstWrite;
     std::uint64_t m_allowedErrors = 0;
     std::uint64_t m_dialogSteps = 0;
 };
