@@ -4,7 +4,6 @@
 #include "view/list_view.h"
 #include "view/scripted_prompter.h"
 
-#include <gtest/gtest.h>
 #include <string>
 
 namespace morvel::testing {
@@ -21,36 +20,24 @@ inline std::string storeText(const PropertyStore& store) {
 inline std::string rowsText(const view::ListView& list) {
     std::string text;
     for (std::int32_t i = 1; i <= list.count(); ++i) {
-        const view::ListItem& item = list.item(i);
-        text += (text.empty() ? "" : "; ") + item.text();
+        text += (text.empty() ? "" : "; ") + list.item(i).text();
         for (std::int32_t sub = 1; sub < list.columnCount(); ++sub)
-            text += "|" + item.subItem(sub);
+            text += "|" + list.item(i).subItem(sub);
     }
     return text;
 }
 
-// The message box asked last; fails the test when the last prompt was something else.
-inline view::MessageBoxRequest lastMessage(const view::ScriptedPrompter& prompter) {
-    if (prompter.prompts().empty()) {
-        ADD_FAILURE() << "no prompt was shown";
-        return {};
-    }
-    const auto* request = std::get_if<view::MessageBoxRequest>(&prompter.prompts().back());
-    if (!request) {
-        ADD_FAILURE() << "the last prompt was not a message box";
-        return {};
-    }
-    return *request;
-}
-
-inline void expectMessage(const view::ScriptedPrompter& prompter, const std::string& prompt,
-                          view::MsgBoxButtons buttons, view::MsgBoxIcon icon,
-                          const std::string& title) {
-    const view::MessageBoxRequest request = lastMessage(prompter);
-    EXPECT_EQ(request.prompt, prompt);
-    EXPECT_EQ(request.buttons, buttons);
-    EXPECT_EQ(request.icon, icon);
-    EXPECT_EQ(request.title, title);
+// The last prompt as "prompt|buttons|icon|title", an input box as "prompt|title|default".
+inline std::string lastPrompt(const view::ScriptedPrompter& prompter) {
+    if (prompter.prompts().empty())
+        return "(none)";
+    if (const auto* box = std::get_if<view::InputBoxRequest>(&prompter.prompts().back()))
+        return box->prompt + "|" + box->title + "|" + box->defaultText;
+    const char* const buttons[] = {"OK", "OKCancel", "YesNo", "YesNoCancel"};
+    const char* const icons[] = {"None", "Critical", "Question", "Exclamation", "Information"};
+    const auto& msg = std::get<view::MessageBoxRequest>(prompter.prompts().back());
+    return msg.prompt + "|" + buttons[static_cast<int>(msg.buttons)] + "|" +
+           icons[static_cast<int>(msg.icon)] + "|" + msg.title;
 }
 
 } // namespace morvel::testing
