@@ -9,6 +9,7 @@ MORVEL_PACKAGES=(
     qt6-base-dev libsqlite3-dev
     libgtest-dev libgmock-dev googletest libbenchmark-dev
     xvfb xauth libgl-dev
+    clang libclang-rt-14-dev
 )
 
 morvel_say() { printf '==> %s\n' "$*"; }

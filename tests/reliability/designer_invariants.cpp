@@ -1,0 +1,334 @@
+#include "reliability/designer_invariants.h"
+
+#include "catalogue/field_types.h"
+#include "catalogue/security.h"
+#include "catalogue/validation.h"
+#include "fields/field_utility.h"
+#include "fields/text.h"
+
+#include <algorithm>
+#include <span>
+#include <sstream>
+#include <string_view>
+#include <vector>
+
+namespace morvel::reliability {
+
+namespace {
+
+namespace type = catalogue::type;
+
+// Collects the first broken rule; later checks are skipped once one failed.
+class Verdict {
+public:
+    bool ok() const { return m_message.empty(); }
+    void require(bool holds, const std::string& what) {
+        if (!holds && ok())
+            m_message = what;
+    }
+    template <typename A, typename B>
+    void equal(const A& shown, const B& expected, const std::string& what) {
+        if (!ok() || shown == expected)
+            return;
+        std::ostringstream out;
+        out << what << ": shows \"" << shown << "\", expected \"" << expected << "\"";
+        m_message = out.str();
+    }
+    std::optional<std::string> result() const {
+        return ok() ? std::nullopt : std::optional<std::string>(m_message);
+    }
+
+private:
+    std::string m_message;
+};
+
+struct TypePage {
+    std::string_view caption;
+    std::int32_t panel;
+};
+
+// The second tab that loading a field of the type builds, and the panel it shows.
+std::optional<TypePage> typePage(std::int32_t code) {
+    if (code == type::Signature)
+        return TypePage{"Signature", 6};
+    if (catalogue::isEncryptedType(code))
+        return TypePage{"Encryption", 7};
+    if (code == type::SubTable)
+        return TypePage{"Sub Table", 4};
+    if (code == type::SubLink)
+        return TypePage{"Sub Link", 5};
+    if (catalogue::isDirectLinkType(code))
+        return TypePage{"Link Properties", 2};
+    if (catalogue::isAdoLinkType(code) || catalogue::isDirectoryType(code))
+        return TypePage{"Database", 3};
+    return std::nullopt;
+}
+
+// The name box corrects every change of its text, also the one that shows a field: a stored name
+// that begins with digits is shown without them (and leaving the box then renames the field).
+std::string shownName(std::string name) {
+    for (;;) {
+        const std::string_view trimmed = trimBlanks(name);
+        if (trimmed.empty() || trimmed.front() < '0' || trimmed.front() > '9')
+            return name;
+        name = std::string(trimmed.substr(1));
+    }
+}
+
+std::string stored(const FieldDef& field, std::string_view key, Value byDefault = Value("")) {
+    return field.Properties().GetValue(key, std::move(byDefault)).toText();
+}
+
+std::int32_t storedNumber(const FieldDef& field, std::string_view key, Value byDefault) {
+    return FieldUtility::ToLong(field.Properties().GetValue(key, std::move(byDefault)));
+}
+
+// A pick list shows the entry with the stored item data, or none when no entry has it.
+void checkSelection(Verdict& verdict, const view::ComboBox& box, std::int32_t value) {
+    std::int32_t expected = -1;
+    for (std::int32_t i = 0; i < box.listCount() && expected < 0; ++i)
+        if (box.itemData(i) == value)
+            expected = i;
+    verdict.equal(box.listIndex(), expected,
+                  box.name() + " selection for item data " + std::to_string(value));
+}
+
+void checkEntries(Verdict& verdict, const view::ComboBox& box,
+                  std::span<const catalogue::Choice> choices) {
+    std::string shown;
+    for (std::int32_t i = 0; i < box.listCount(); ++i)
+        shown += std::to_string(box.itemData(i)) + " ";
+    std::string expected;
+    for (const catalogue::Choice& choice : choices)
+        expected += std::to_string(choice.itemData) + " ";
+    verdict.equal(shown, expected, box.name() + " entries");
+}
+
+class PanelCheck {
+public:
+    PanelCheck(Verdict& verdict, const control::Morvel& designer, const FieldDef& field,
+               const std::set<std::string>& pending)
+        : m_verdict(verdict)
+        , m_designer(designer)
+        , m_field(field)
+        , m_pending(pending) {}
+
+    // The box shows what is stored, unless it is pending.
+    template <typename Box> void shows(const Box& box, const std::string& expected) {
+        if (!m_pending.contains(box.name()))
+            m_verdict.equal(box.text(), expected, box.name());
+    }
+
+    void general() {
+        const auto& d = m_designer;
+        shows(d.txtName, shownName(m_field.Name()));
+        shows(d.txtSize, std::to_string(m_field.Size()));
+        shows(d.txtDisplayName, m_field.DisplayName());
+        shows(d.txtDescription, m_field.Description());
+        shows(d.txtDefault, m_field.DefaultValue());
+        shows(d.txtCtrlEdit, m_field.CtrlEdit());
+        shows(d.txtCtrlReadOnly, m_field.CtrlReadOnly());
+        shows(d.txtCtrlList, m_field.CtrlList());
+        m_verdict.equal(d.chkCreateOnDemand.value(), m_field.CreateOnDemand() ? 1 : 0,
+                        "chkCreateOnDemand");
+        checkSelection(m_verdict, d.cboType, m_field.FieldType());
+        checkSelection(m_verdict, d.cboValidation, m_field.Validation());
+    }
+
+    void typePage() {
+        const auto& d = m_designer;
+        const std::int32_t code = m_field.FieldType();
+        if (catalogue::isEncryptedType(code)) {
+            const std::int32_t cipher = storedNumber(m_field, "Encyrpt.Type", 1);
+            checkSelection(m_verdict, d.cboEncryption, cipher);
+            checkEntries(m_verdict, d.cboEncryptionKeyLen, catalogue::cipherKeyLengths(cipher));
+            checkSelection(m_verdict, d.cboEncryptionKeyLen,
+                           storedNumber(m_field, "Encyrpt.KeyLen", 0));
+        } else if (code == type::Signature) {
+            const std::int32_t hash = storedNumber(m_field, "Sign.Type", 1);
+            checkSelection(m_verdict, d.cboSignatureHash, hash);
+            checkEntries(m_verdict, d.cboSignatureKeyLen, catalogue::hashKeyLengths(hash));
+            checkSelection(m_verdict, d.cboSignatureKeyLen,
+                           storedNumber(m_field, "Sign.KeyLen", 0));
+            shows(d.txtSignatureFields, stored(m_field, "Sign.Flds"));
+        } else if (code == type::SubTable) {
+            shows(d.txtSubTable, stored(m_field, "zrDirect.ST", 0));
+            shows(d.txtSubTableFieldID, stored(m_field, "zrDirect.STF", 0));
+            if (!m_pending.contains("cboSubTable"))
+                checkSelection(m_verdict, d.cboSubTable, storedNumber(m_field, "zrDirect.ST", 0));
+        } else if (catalogue::isDirectoryType(code)) {
+            shows(d.txtConnStr, stored(m_field, "zrDirect.ConnStr"));
+        } else if (catalogue::isAdoLinkType(code)) {
+            shows(d.txtConnStr, stored(m_field, "ADO.ConnStr"));
+            shows(d.txtTable, stored(m_field, "ADO.Table"));
+            // Written as "ADO.ID", "ADO.Disp", "ADO.Select": these three are pending once typed.
+            shows(d.txtIDField, stored(m_field, "ADO.IDField"));
+            shows(d.txtDispField, stored(m_field, "ADO.DispField"));
+            shows(d.txtSQL, stored(m_field, "ADO.SQL"));
+        } else if (catalogue::isDirectLinkType(code)) {
+            directLink();
+        } else if (code == type::SubLink) {
+            subLink();
+        }
+    }
+
+private:
+    void directLink() {
+        const auto& d = m_designer;
+        shows(d.txtObjectType, stored(m_field, "zrDirect.OT"));
+        shows(d.txtCoreFilter, stored(m_field, "zrDirect.Q"));
+        shows(d.txtAdditionalFilter, stored(m_field, "zrDirect.IQ"));
+        shows(d.txtStatus, stored(m_field, "zrDirect.S"));
+        shows(d.txtOrderField, stored(m_field, "zrDirect.OB", "DisplayName"));
+        shows(d.txtLinkDisplayField, stored(m_field, "zrDirect.Disp", "DisplayName"));
+        shows(d.txtLinkIDField, stored(m_field, "zrDirect.ID", "zrID"));
+        shows(d.txtLinkSelect, stored(m_field, "zrDirect.Select"));
+        shows(d.txtLinkTableName, stored(m_field, "zrDirect.Table"));
+        shows(d.cboLinkTableName, stored(m_field, "zrDirect.Table"));
+        // True is kept as a Boolean; a stored -1 reads as True as well.
+        m_verdict.equal(d.chkLinkParent.value(),
+                        storedNumber(m_field, "Lnk.Parent", false) == -1 ? 1 : 0, "chkLinkParent");
+        // The page shows the object-link or the table-link controls, as the box's number says.
+        const bool toObjects = FieldUtility::ToLong(d.txtObjectType.text()) != 0;
+        using Controls = std::initializer_list<const view::Control*>;
+        for (const view::Control* control :
+             Controls{&d.txtCoreFilter, &d.txtAdditionalFilter, &d.txtOrderField, &d.txtStatus})
+            m_verdict.equal(control->visible(), toObjects, control->name() + " visible");
+        for (const view::Control* control :
+             Controls{&d.txtLinkIDField, &d.txtLinkDisplayField, &d.txtLinkSelect})
+            m_verdict.equal(control->visible(), !toObjects, control->name() + " visible");
+    }
+
+    void subLink() {
+        const auto& d = m_designer;
+        std::vector<std::string> shown;
+        for (std::int32_t i = 0; i < d.cboLinkFields.listCount(); ++i)
+            shown.push_back(d.cboLinkFields.list(i));
+        std::vector<std::string> links;
+        const FieldDefs* fields = m_field.collection();
+        if (fields)
+            for (const auto& each : *fields)
+                if (each->FieldType() == type::Link)
+                    links.push_back(each->Name());
+        std::sort(shown.begin(), shown.end());
+        std::sort(links.begin(), links.end());
+        m_verdict.require(shown == links, "cboLinkFields lists the collection's \"Link\" fields");
+        const std::string linkField = stored(m_field, "SubLnk.Lnk");
+        const auto match = std::find_if(shown.begin(), shown.end(), [&](const std::string& name) {
+            return equalsIgnoringCase(name, linkField);
+        });
+        const std::int32_t index = d.cboLinkFields.listIndex();
+        if (match == shown.end())
+            m_verdict.equal(index, -1, "cboLinkFields selection for \"" + linkField + "\"");
+        else
+            m_verdict.require(index >= 0 &&
+                                  equalsIgnoringCase(d.cboLinkFields.list(index), linkField),
+                              "cboLinkFields selects \"" + linkField + "\"");
+        shows(d.txtSubLinkTable, stored(m_field, "SubLnk.Tbl"));
+        shows(d.txtSubLinkPIDField, stored(m_field, "SubLnk.PID"));
+        shows(d.txtSubLinkDisplayName, stored(m_field, "SubLnk.DN"));
+        shows(d.txtSubLinkOrderBy, stored(m_field, "SubLnk.OB"));
+    }
+
+    Verdict& m_verdict;
+    const control::Morvel& m_designer;
+    const FieldDef& m_field;
+    const std::set<std::string>& m_pending;
+};
+
+void checkRows(Verdict& verdict, const control::Morvel& designer, const FieldDefs* fields) {
+    const view::ListView& lst = designer.lst;
+    const std::int32_t count = fields ? fields->Count() : 0;
+    verdict.equal(lst.count(), count, "number of rows");
+    const std::int32_t type = lst.columnIndex("Type") - 1;
+    const std::int32_t size = lst.columnIndex("Size") - 1;
+    const std::int32_t displayName = lst.columnIndex("DisplayName") - 1;
+    const std::int32_t validation = lst.columnIndex("Validation") - 1;
+    const std::int32_t ctrlReadOnly = lst.columnIndex("CtrlReadOnly") - 1;
+    const std::int32_t ctrlEdit = lst.columnIndex("CtrlEdit") - 1;
+    const std::int32_t ctrlList = lst.columnIndex("CtrlList") - 1;
+    for (std::int32_t i = 1; i <= lst.count() && verdict.ok(); ++i) {
+        const view::ListItem& row = lst.item(i);
+        const std::string where = "row " + std::to_string(i) + " \"" + row.key() + "\"";
+        verdict.equal(row.text(), row.key(), where + " text");
+        const auto field = fields ? fields->find(row.key()) : nullptr;
+        verdict.require(field && field->Name() == row.key(), where + " is a field's name");
+        if (!verdict.ok())
+            return;
+        verdict.equal(row.subItem(type), catalogue::typeName(field->FieldType()), where + " type");
+        verdict.equal(row.subItem(displayName), field->DisplayName(), where + " display name");
+        verdict.equal(row.subItem(validation), catalogue::validationName(field->Validation()),
+                      where + " validation");
+        verdict.equal(row.subItem(ctrlReadOnly), field->CtrlReadOnly(), where + " read-only ctrl");
+        verdict.equal(row.subItem(ctrlEdit), field->CtrlEdit(), where + " edit ctrl");
+        verdict.equal(row.subItem(ctrlList), field->CtrlList(), where + " list ctrl");
+        // The size cell shows what was typed, which converts to the stored size. Other types show
+        // none, unless typed into: the size box stays visible after a field with a size.
+        const std::string& sizeCell = row.subItem(size);
+        if (catalogue::hasSize(field->FieldType()) || !sizeCell.empty())
+            verdict.equal(FieldUtility::ToLong(sizeCell), field->Size(), where + " size");
+    }
+}
+
+} // namespace
+
+std::optional<std::string> checkDesigner(const control::Morvel& designer, const FieldDefs* fields,
+                                         const std::set<std::string>& pending) {
+    Verdict verdict;
+    checkRows(verdict, designer, fields);
+
+    const auto& current = designer.SelectedFieldDef();
+    const view::ListItem* selected = designer.lst.selectedItem();
+    if (designer.lst.count() == 0) {
+        verdict.require(!current, "SelectedFieldDef is none with an empty list");
+    } else {
+        verdict.require(selected != nullptr, "a row is selected");
+        verdict.require(selected && current && fields && fields->find(selected->key()) == current,
+                        "SelectedFieldDef is the selected row's field");
+    }
+
+    const view::TabStrip& tabs = designer.TabStrip;
+    verdict.require(tabs.count() >= 1 && tabs.count() <= 2, "one or two tabs");
+    verdict.equal(tabs.caption(1), std::string("Properties"), "tab 1");
+    const std::optional<TypePage> page = current ? typePage(current->FieldType()) : std::nullopt;
+    verdict.equal(tabs.count(), page ? 2 : 1, "number of tabs");
+    if (page && tabs.count() == 2)
+        verdict.equal(tabs.caption(2), std::string(page->caption), "tab 2");
+    const std::int32_t panel = tabs.selectedIndex() == 1 ? 1 : (page ? page->panel : 0);
+    for (std::int32_t i = 1; i <= control::PanelArray::kCount; ++i)
+        verdict.equal(designer.pic(i).visible(), i == panel,
+                      "pic(" + std::to_string(i) + ") visible");
+
+    if (!verdict.ok())
+        return verdict.result();
+    if (!current) {
+        for (const view::TextBox* box : {&designer.txtName, &designer.txtSize,
+                                         &designer.txtDisplayName, &designer.txtDescription})
+            verdict.require(!box->enabled(), box->name() + " is disabled with no field");
+        return verdict.result();
+    }
+    PanelCheck check(verdict, designer, *current, pending);
+    check.general();
+    if (page)
+        check.typePage();
+    return verdict.result();
+}
+
+std::optional<std::string> checkLocaleEditor(const dialogs::frmLocale& form, const FieldDef& field,
+                                             const std::set<std::pair<std::string, int>>& blank) {
+    Verdict verdict;
+    const view::ListView& list = form.lstLocale;
+    for (std::int32_t i = 1; i <= list.count() && verdict.ok(); ++i) {
+        const view::ListItem& row = list.item(i);
+        const std::string n = std::to_string(FieldUtility::ToLong(row.key().substr(1)));
+        if (!blank.contains({row.key(), 1}))
+            verdict.equal(row.subItem(1), field.LocaleDisplayName(n),
+                          "locale " + n + " display name");
+        if (!blank.contains({row.key(), 2}))
+            verdict.equal(row.subItem(2), field.LocaleDescription(n),
+                          "locale " + n + " description");
+    }
+    return verdict.result();
+}
+
+} // namespace morvel::reliability

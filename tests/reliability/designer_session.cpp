@@ -1,0 +1,616 @@
+#include "reliability/designer_session.h"
+
+#include "dialogs/frm_edit_list.h"
+#include "dialogs/frm_locale.h"
+#include "fields/error.h"
+#include "fields/field_utility.h"
+#include "reliability/designer_invariants.h"
+#include "reliability/random_collection.h"
+
+#include <typeinfo>
+
+namespace morvel::reliability {
+
+namespace {
+
+// A broken rule found inside an editor: carried out of the modal show past every handler, none
+// of which catches anything but std::exception.
+struct BrokenRule {
+    std::string message;
+};
+
+constexpr std::int32_t kDeleteKey = 46;
+
+const std::set<std::string> kNumericBoxes{"txtSize", "txtObjectType", "txtStatus", "txtSubTable",
+                                          "txtSubTableFieldID"};
+// Boxes whose text is stored when the focus leaves them (or, for the template combos, when a
+// picked suggestion is left).
+const std::set<std::string> kStoredOnLeave{
+    "txtCtrlEdit",           "txtCtrlReadOnly",   "txtSubLinkTable",   "txtSubLinkPIDField",
+    "txtSubLinkDisplayName", "txtSubLinkOrderBy", "txtSignatureFields"};
+// Typing into the key of a box makes another box showing the same key out of date.
+const std::map<std::string, std::string> kSharedKey{{"txtLinkTableName", "cboLinkTableName"},
+                                                    {"cboLinkTableName", "txtLinkTableName"},
+                                                    {"txtSubTable", "cboSubTable"},
+                                                    {"cboSubTable", "txtSubTable"}};
+// What these boxes write is not what they show (the ADO keys), or not yet (the name).
+const std::set<std::string> kShownDiffers{"txtName", "txtIDField", "txtDispField", "txtSQL"};
+
+std::string answerYesNo(RandomSource& random) {
+    return random.chance(0.6) ? "?Yes" : "?No";
+}
+
+std::string removeLastCharacter(std::string text) {
+    while (!text.empty()) {
+        const auto byte = static_cast<unsigned char>(text.back());
+        text.pop_back();
+        if ((byte & 0xC0U) != 0x80U)
+            break;
+    }
+    return text;
+}
+
+// The UTF-8 characters of text, one string each.
+std::vector<std::string> characters(const std::string& text) {
+    std::vector<std::string> out;
+    for (char c : text) {
+        if (out.empty() || (static_cast<unsigned char>(c) & 0xC0U) != 0x80U)
+            out.emplace_back();
+        out.back() += c;
+    }
+    return out;
+}
+
+bool wellFormedLocales(const FieldDef& field) {
+    for (const ListEntry& entry : field.Locales()) {
+        const std::size_t prefix = entry.Key.starts_with("DN")  ? 2
+                                   : entry.Key.starts_with("D") ? 1
+                                                                : 0;
+        const std::string n = entry.Key.substr(prefix);
+        if (prefix == 0 || n != std::to_string(FieldUtility::ToLong(n)))
+            return false;
+    }
+    return true;
+}
+
+std::string storeText(const PropertyStore& store) {
+    std::string text;
+    for (const ListEntry& entry : store)
+        text += entry.Key + "=" + entry.Value.toText() + "; ";
+    return text;
+}
+
+} // namespace
+
+DesignerSession::DesignerSession()
+    : m_database(std::make_shared<InMemoryDatabase>())
+    , m_designer(std::make_unique<control::Morvel>(m_prompter, m_modalHost)) {
+    m_database->addTable({1, "Customers", "Customers", 2});
+    m_database->addTable({2, "Products", "Product Catalogue", 2});
+    m_database->addTable({3, "OrderLines", "Order Lines", 4});
+    m_database->addTable({4, "Addresses", "Addresses", 4});
+    m_designer->move(0, 0, 12000, 9000);
+
+    std::vector<view::Control*> open{m_designer.get()};
+    while (!open.empty()) {
+        view::Control* control = open.back();
+        open.pop_back();
+        if (auto* container = dynamic_cast<view::Container*>(control)) {
+            open.insert(open.end(), container->children().begin(), container->children().end());
+            continue;
+        }
+        if (!dynamic_cast<view::Label*>(control))
+            m_controls[control->name()] = control;
+    }
+    m_loadWatch = m_designer->currentFieldChanged.connect(
+        [this](const control::Morvel::FieldDefPtr&) { m_pending.clear(); });
+}
+
+DesignerSession::~DesignerSession() = default;
+
+Event DesignerSession::typingEvent(RandomSource& random, const std::string& target) {
+    Event event{Event::Kind::Type, target};
+    const std::int32_t mode = random.between(0, 19);
+    event.typing = mode < 10 ? Event::Typing::Replace
+                             : (mode < 17 ? Event::Typing::Append : Event::Typing::Backspace);
+    if (target == "txtName")
+        event.text = random.chance(0.1) ? "" : random.fieldName();
+    else if (kNumericBoxes.contains(target))
+        event.text = random.numberish();
+    else if (target == "txtCtrlEdit" || target == "txtCtrlReadOnly")
+        event.text = random.chance(0.5) ? "TEXTBOX" : random.word(8);
+    else
+        event.text = random.text();
+    return event;
+}
+
+Event DesignerSession::generate(RandomSource& random) {
+    using Kind = Event::Kind;
+    const std::int32_t roll = random.between(0, 999);
+    auto& d = *m_designer;
+    if (roll < 2 || !m_fields) {
+        Event event{Kind::HostReplace};
+        event.seed = random.next();
+        event.number = random.chance(0.05)
+                           ? 0
+                           : (random.chance(0.1) ? random.between(1, 3) : random.between(20, 200));
+        return event;
+    }
+    if (roll < 40) {
+        Event event{Kind::HostAdd};
+        event.seed = random.next();
+        event.number2 = random.chance(0.5) ? 0 : random.between(1, 1000);
+        return event;
+    }
+    if (roll < 70)
+        return Event{Kind::HostRemove, "", "", random.between(0, 100000)};
+    if (roll < 74)
+        return Event{Kind::HostCanModify, "", "", random.between(0, 1)};
+    if (roll < 77)
+        return Event{Kind::HostDatabase, "", "", random.between(0, 1)};
+    if (roll < 200)
+        return Event{Kind::ClickRow, "", "", random.between(0, 100000)};
+    if (roll < 230) {
+        Event event{Kind::Find};
+        std::string search = random.chance(0.5) ? random.word(3) : "";
+        if (search.empty() && d.lst.count() > 0) {
+            const std::string& name = d.lst.item(random.between(1, d.lst.count())).text();
+            search = name.substr(0, static_cast<std::size_t>(random.between(0, 3)));
+        }
+        if (random.chance(0.2))
+            search = random.pick(std::vector<std::string>{"link", "LIST", "Text", "sub "});
+        event.answers = {search, answerYesNo(random)};
+        return event;
+    }
+    if (roll < 260)
+        return Event{Kind::FindNext,       "", "", 0, 0, Event::Typing::Replace, 0,
+                     {answerYesNo(random)}};
+    if (roll < 290 && d.cmdList.focusable())
+        return generateDialog(random, Kind::EditList);
+    if (roll < 305)
+        return generateDialog(random, Kind::EditLocales);
+    if (roll < 320) {
+        const bool small = random.chance(0.2);
+        return Event{Kind::Resize, "", "", random.between(small ? 0 : 4000, small ? 6000 : 16000),
+                     random.between(small ? 0 : 5000, small ? 7000 : 14000)};
+    }
+    if (roll < 380)
+        return Event{Kind::ClickTab, "", "", random.between(1, 2)};
+
+    // The person's input goes to controls that can take it now.
+    std::vector<std::string> boxes, combos, checks, focusable;
+    for (const auto& [name, control] : m_controls) {
+        if (!control->focusable())
+            continue;
+        focusable.push_back(name);
+        if (auto* box = dynamic_cast<view::TextBox*>(control); box && !box->locked())
+            boxes.push_back(name);
+        if (auto* combo = dynamic_cast<view::ComboBox*>(control); combo && !combo->locked()) {
+            if (combo->listCount() > 0)
+                combos.push_back(name);
+            if (combo->style() == view::ComboBox::Style::Editable)
+                boxes.push_back(name);
+        }
+        if (dynamic_cast<view::CheckBox*>(control))
+            checks.push_back(name);
+    }
+    if (roll < 430 && !focusable.empty())
+        return Event{Kind::Focus, random.pick(focusable)};
+    if (roll < 470 && !checks.empty())
+        return Event{Kind::ClickCheck, random.pick(checks)};
+    if (roll < 560 && d.cboType.focusable() && !d.cboType.locked())
+        return Event{Kind::Pick, "cboType", "", random.between(0, 1000)};
+    if (roll < 640 && !combos.empty())
+        return Event{Kind::Pick, random.pick(combos), "", random.between(0, 1000)};
+    if (boxes.empty())
+        return Event{Kind::ClickRow, "", "", random.between(0, 100000)};
+    if (random.chance(0.1) && d.txtName.focusable() && !d.txtName.locked())
+        return typingEvent(random, "txtName");
+    return typingEvent(random, random.pick(boxes));
+}
+
+Event DesignerSession::generateDialog(RandomSource& random, Event::Kind kind) {
+    using Kind = Event::Kind;
+    Event event{kind};
+    const std::int32_t steps = random.between(1, 12);
+    for (std::int32_t i = 0; i < steps; ++i) {
+        const std::int32_t roll = random.between(0, 9);
+        Event step{Kind::DialogButton};
+        if (kind == Kind::EditList) {
+            if (roll < 3) {
+                step.target = "cmdNew";
+            } else if (roll < 5) {
+                step.target = "cmdAddSpecific";
+                const std::string value =
+                    random.chance(0.5) ? std::to_string(std::int64_t{1} << random.between(0, 31))
+                                       : random.numberish();
+                step.answers = {value, answerYesNo(random)};
+            } else if (roll < 7) {
+                step = Event{Kind::DialogLabelEdit, "", random.text(), random.between(0, 1000)};
+            } else if (roll < 8) {
+                step = Event{Kind::DialogClickRow, "", "", random.between(0, 1000)};
+            } else if (roll < 9) {
+                step = Event{Kind::DialogKey, "", "", random.chance(0.8) ? kDeleteKey : 13};
+            } else {
+                step = Event{Kind::DialogResize, "", "", random.between(0, 9000),
+                             random.between(0, 7000)};
+            }
+        } else {
+            if (roll < 3) {
+                step.target = "cmdAddLocale";
+                step.answers = {random.pick(
+                    std::vector<std::string>{"1033", "1031", "1036", "", "abc", " 2057 ",
+                                             std::to_string(random.between(-5, 40000))})};
+            } else if (roll < 4) {
+                step.target = "cmdDeleteLocale";
+                step.answers = {answerYesNo(random)};
+            } else if (roll < 5) {
+                step = Event{Kind::DialogClickRow, "", "", random.between(0, 1000)};
+            } else {
+                step = Event{Kind::DialogType,
+                             random.pick(std::vector<std::string>{
+                                 "txtDisplayName", "txtDescription", "txtLinkLocale"}),
+                             random.text()};
+            }
+        }
+        event.steps.push_back(std::move(step));
+    }
+    const std::int32_t end = random.between(0, 9);
+    if (kind == Kind::EditList && end < 9)
+        event.steps.push_back(Event{Kind::DialogButton, end < 6 ? "cmdOK" : "cmdCancel"});
+    if (kind == Kind::EditLocales && end < 8)
+        event.steps.push_back(Event{Kind::DialogButton, "cmdClose"});
+    return event;
+}
+
+void DesignerSession::queueAnswers(const std::vector<std::string>& answers) {
+    m_prompter.reset();
+    for (const std::string& answer : answers) {
+        if (answer == "?Yes")
+            m_prompter.answer(view::MsgBoxResult::Yes);
+        else if (answer == "?No")
+            m_prompter.answer(view::MsgBoxResult::No);
+        else
+            m_prompter.answer(answer);
+    }
+}
+
+void DesignerSession::type(view::Control& control, const Event& event) {
+    auto* box = dynamic_cast<view::TextBox*>(&control);
+    auto* combo = dynamic_cast<view::ComboBox*>(&control);
+    auto text = [&] { return box ? box->text() : combo->text(); };
+    auto put = [&](std::string typed) {
+        return box ? box->type(std::move(typed)) : combo->type(std::move(typed));
+    };
+    if (!box && !combo)
+        return;
+    switch (event.typing) {
+    case Event::Typing::Replace:
+        put(event.text);
+        return;
+    case Event::Typing::Backspace:
+        put(removeLastCharacter(text()));
+        return;
+    case Event::Typing::Append:
+        // One Change per keystroke, as a keyboard gives them.
+        for (const std::string& character : characters(event.text))
+            if (!put(text() + character))
+                return;
+        return;
+    }
+}
+
+std::optional<std::string> DesignerSession::apply(const Event& event) {
+    auto& d = *m_designer;
+    // The errors the designer lets reach its host, and when.
+    const bool noField = !d.SelectedFieldDef();
+    const bool leavingEmptyName = d.focused() == &d.txtName && d.txtName.text().empty();
+    // Locale keys that no editor writes can read as one locale twice; the editor's loading
+    // catches nothing.
+    const bool oddLocales = event.kind == Event::Kind::EditLocales && d.SelectedFieldDef() &&
+                            !wellFormedLocales(*d.SelectedFieldDef());
+    bool completed = false;
+    const auto shownBefore = d.SelectedFieldDef();
+    m_written.clear();
+    m_writtenOnLeave = 0;
+    m_firstWrite.clear();
+    try {
+        if (auto broken = run(event))
+            return broken;
+        completed = true;
+    } catch (const BrokenRule& broken) {
+        return broken.message;
+    } catch (const NoCurrentFieldError& error) {
+        if (!noField)
+            return std::string("NoCurrentFieldError while a field was shown: ") + error.what();
+        ++m_allowedErrors;
+    } catch (const FieldNameError& error) {
+        if (!leavingEmptyName)
+            return std::string("FieldNameError: ") + error.what();
+        ++m_allowedErrors;
+    } catch (const DuplicateKeyError& error) {
+        if (!oddLocales)
+            return std::string("DuplicateKeyError: ") + error.what();
+        ++m_allowedErrors;
+    } catch (const std::exception& error) {
+        return std::string("unexpected ") + typeid(error).name() + ": " + error.what();
+    }
+    markPending(event, completed);
+    if (auto broken = checkWrites(event, shownBefore.get()))
+        return broken;
+    if (auto broken = checkDesigner(d, m_fields.get(), m_pending))
+        return "invariant broken: " + *broken;
+    return std::nullopt;
+}
+
+void DesignerSession::markPending(const Event& event, bool completed) {
+    // A click on a row loads the panel, unless leaving the name box failed first.
+    if (event.kind == Event::Kind::ClickRow && completed)
+        m_pending.clear();
+    if (event.kind == Event::Kind::Type || event.kind == Event::Kind::Pick) {
+        const std::string& target = event.target;
+        const bool picked = event.kind == Event::Kind::Pick;
+        if ((!picked && (kNumericBoxes.contains(target) || kShownDiffers.contains(target))) ||
+            kStoredOnLeave.contains(target))
+            m_pending.insert(target);
+        if (auto shared = kSharedKey.find(target); shared != kSharedKey.end())
+            m_pending.insert(shared->second);
+    }
+    // A box that stores on leaving shows the stored value again once left.
+    for (const std::string& name : kStoredOnLeave)
+        if (m_pending.contains(name) && m_designer->focused() != m_controls.at(name))
+            m_pending.erase(name);
+}
+
+void DesignerSession::watchWrites() {
+    m_writeWatch = m_fields->changed.connect([this](const FieldChange& change) {
+        if (m_written.empty())
+            m_firstWrite = std::string(memberName(change.member)) + " " + change.key + " = \"" +
+                           change.newValue.toText() + "\"";
+        m_written.push_back(&change.field);
+        static const std::set<std::string> kKeysStoredOnLeave{
+            "SubLnk.Tbl", "SubLnk.PID", "SubLnk.DN", "SubLnk.OB", "Sign.Flds"};
+        if (change.member == FieldMember::CtrlEdit || change.member == FieldMember::CtrlReadOnly ||
+            (change.member == FieldMember::Properties && kKeysStoredOnLeave.contains(change.key)))
+            ++m_writtenOnLeave;
+    });
+}
+
+std::optional<std::string> DesignerSession::checkWrites(const Event& event,
+                                                        const FieldDef* shown) const {
+    using Kind = Event::Kind;
+    const bool byHost = event.kind == Kind::HostAdd || event.kind == Kind::HostRemove ||
+                        event.kind == Kind::HostReplace || event.kind == Kind::HostCanModify ||
+                        event.kind == Kind::HostDatabase;
+    // Known fault, shown by focus_commit_test: a field added by the host is loaded before the
+    // focus moves into the name box, so a box of the previous page that stores on leaving writes
+    // into the added field. Counted, not failed, so that the run goes on checking the rest; drop
+    // this once the designer commits the focused box before it shows the added field.
+    if (event.kind == Kind::HostAdd && m_writtenOnLeave == m_written.size()) {
+        m_strayCommits += m_written.size();
+        return std::nullopt;
+    }
+    for (const FieldDef* field : m_written) {
+        if (byHost)
+            return "the host's change wrote to field \"" + field->Name() + "\": " + m_firstWrite;
+        if (field != shown)
+            return "a write went to field \"" + field->Name() +
+                   "\", which was not shown: " + m_firstWrite;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> DesignerSession::run(const Event& event) {
+    using Kind = Event::Kind;
+    auto& d = *m_designer;
+    queueAnswers(event.answers);
+    auto control = [&](const std::string& name) -> view::Control* {
+        auto found = m_controls.find(name);
+        return found == m_controls.end() ? nullptr : found->second;
+    };
+    switch (event.kind) {
+    case Kind::ClickRow:
+        if (d.lst.count() > 0)
+            d.lst.clickItem(d.lst.item(event.number % d.lst.count() + 1));
+        return std::nullopt;
+    case Kind::Type:
+        if (view::Control* target = control(event.target))
+            type(*target, event);
+        return std::nullopt;
+    case Kind::Pick:
+        if (auto* combo = dynamic_cast<view::ComboBox*>(control(event.target));
+            combo && combo->listCount() > 0)
+            combo->pick(event.number % combo->listCount());
+        return std::nullopt;
+    case Kind::ClickCheck:
+        if (auto* check = dynamic_cast<view::CheckBox*>(control(event.target)))
+            check->click();
+        return std::nullopt;
+    case Kind::ClickTab:
+        if (event.number <= d.TabStrip.count())
+            d.TabStrip.click(event.number);
+        return std::nullopt;
+    case Kind::Focus:
+        if (view::Control* target = control(event.target))
+            target->setFocus();
+        return std::nullopt;
+    case Kind::Find:
+        d.cmdFind.click();
+        return std::nullopt;
+    case Kind::FindNext:
+        d.cmdFindNext.click();
+        return std::nullopt;
+    case Kind::EditList:
+    case Kind::EditLocales: {
+        std::optional<std::string> broken;
+        m_modalHost.setScript([&](view::Form& form) {
+            broken = event.kind == Kind::EditList ? runEditList(form, event)
+                                                  : runEditLocales(form, event);
+        });
+        (event.kind == Kind::EditList ? d.cmdList : d.cmdLocale).click();
+        m_modalHost.setScript(nullptr);
+        return broken;
+    }
+    case Kind::Resize:
+        d.move(0, 0, event.number, event.number2);
+        return std::nullopt;
+    case Kind::HostAdd: {
+        if (!m_fields)
+            return std::nullopt;
+        RandomSource random(event.seed);
+        auto field = randomField(random);
+        if (m_fields->find(field->Name()))
+            return std::nullopt;
+        if (event.number2 == 0)
+            m_fields->Add(std::move(field));
+        else
+            m_fields->Insert(event.number2 % (m_fields->Count() + 1) + 1, std::move(field));
+        return std::nullopt;
+    }
+    case Kind::HostRemove:
+        if (m_fields && m_fields->Count() > 0)
+            m_fields->Remove(m_fields->Item(event.number % m_fields->Count() + 1)->Name());
+        return std::nullopt;
+    case Kind::HostReplace:
+        m_fields = randomCollection(event.seed, event.number);
+        watchWrites();
+        d.SetFieldDefs(m_fields);
+        m_pending.clear();
+        return std::nullopt;
+    case Kind::HostCanModify:
+        d.SetCanModifyExisting(event.number != 0);
+        return std::nullopt;
+    case Kind::HostDatabase:
+        d.SetDatabase(event.number ? m_database : nullptr);
+        return std::nullopt;
+    default:
+        return "a dialog step outside a dialog";
+    }
+}
+
+std::optional<std::string> DesignerSession::runEditList(view::Form& form, const Event& event) {
+    auto& editor = dynamic_cast<dialogs::frmEditList&>(form);
+    const FieldDef& field = *editor.FieldDef();
+    const std::string before = storeText(field.ListValues());
+    std::optional<std::string> written;
+    for (const Event& step : event.steps) {
+        if (!editor.isOpen())
+            break;
+        ++m_dialogSteps;
+        queueAnswers(step.answers);
+        auto& list = editor.lstValues;
+        switch (step.kind) {
+        case Event::Kind::DialogButton:
+            if (step.target == "cmdNew")
+                editor.cmdNew.click();
+            else if (step.target == "cmdAddSpecific")
+                editor.cmdAddSpecific.click();
+            else if (step.target == "cmdCancel")
+                editor.cmdCancel.click();
+            else if (step.target == "cmdOK") {
+                editor.cmdOK.click();
+                // What OK wrote: the rows, in the list's order after its re-sort.
+                written.emplace();
+                for (std::int32_t i = 1; i <= list.count(); ++i)
+                    *written += list.item(i).subItem(1) + "=" + list.item(i).text() + "; ";
+            }
+            break;
+        case Event::Kind::DialogLabelEdit:
+            if (list.count() > 0)
+                list.editLabel(list.item(step.number % list.count() + 1), step.text);
+            break;
+        case Event::Kind::DialogClickRow:
+            if (list.count() > 0)
+                list.clickItem(list.item(step.number % list.count() + 1));
+            break;
+        case Event::Kind::DialogKey:
+            list.keyDown(step.number);
+            break;
+        case Event::Kind::DialogResize:
+            editor.move(0, 0, step.number, step.number2);
+            break;
+        default:
+            break;
+        }
+    }
+    const std::string after = storeText(field.ListValues());
+    if (written && after != *written)
+        return "OK in the list values editor wrote \"" + after + "\", its rows were \"" + *written +
+               "\"";
+    if (!written && after != before)
+        return "the list values editor changed the values without OK: \"" + before +
+               "\" became \"" + after + "\"";
+    return std::nullopt;
+}
+
+std::optional<std::string> DesignerSession::runEditLocales(view::Form& form, const Event& event) {
+    auto& editor = dynamic_cast<dialogs::frmLocale&>(form);
+    const FieldDef& field = *m_designer->SelectedFieldDef();
+    const bool checkRows = wellFormedLocales(field);
+    std::set<std::pair<std::string, int>> blank;
+    for (const Event& step : event.steps) {
+        if (!editor.isOpen())
+            break;
+        ++m_dialogSteps;
+        queueAnswers(step.answers);
+        auto& list = editor.lstLocale;
+        const bool nothingSelected = list.selectedItem() == nullptr;
+        bool localeListed = false;
+        if (!step.answers.empty() && FieldUtility::IsNumeric(step.answers.front()))
+            localeListed =
+                list.find("K" + std::to_string(FieldUtility::ToLong(step.answers.front())));
+        try {
+            switch (step.kind) {
+            case Event::Kind::DialogButton:
+                if (step.target == "cmdAddLocale") {
+                    editor.cmdAddLocale.click();
+                    if (const view::ListItem* added = list.selectedItem()) {
+                        blank.insert({added->key(), 1});
+                        blank.insert({added->key(), 2});
+                    }
+                } else if (step.target == "cmdDeleteLocale")
+                    editor.cmdDeleteLocale.click();
+                else
+                    editor.cmdClose.click();
+                break;
+            case Event::Kind::DialogClickRow:
+                if (list.count() > 0)
+                    list.clickItem(list.item(step.number % list.count() + 1));
+                break;
+            case Event::Kind::DialogType:
+                // Typing what the box shows already changes nothing, so writes nothing.
+                if (const view::ListItem* selected = list.selectedItem();
+                    selected && step.target != "txtLinkLocale" &&
+                    step.text != (step.target == "txtDisplayName" ? editor.txtDisplayName
+                                                                  : editor.txtDescription)
+                                     .text())
+                    blank.erase({selected->key(), step.target == "txtDisplayName" ? 1 : 2});
+                if (step.target == "txtDisplayName")
+                    editor.txtDisplayName.type(step.text);
+                else if (step.target == "txtDescription")
+                    editor.txtDescription.type(step.text);
+                else
+                    editor.txtLinkLocale.type(step.text);
+                break;
+            default:
+                break;
+            }
+        } catch (const DuplicateKeyError& error) {
+            // Adding a listed locale fails on its taken key; nothing is caught there.
+            if (!(step.target == "cmdAddLocale" && localeListed))
+                throw BrokenRule{std::string("DuplicateKeyError: ") + error.what()};
+            ++m_allowedErrors;
+        } catch (const NotFoundError& error) {
+            // Typing with no locale selected fails; nothing is caught there.
+            if (!(step.kind == Event::Kind::DialogType && nothingSelected))
+                throw BrokenRule{std::string("NotFoundError: ") + error.what()};
+            ++m_allowedErrors;
+        }
+        if (checkRows)
+            if (auto broken = checkLocaleEditor(editor, field, blank))
+                throw BrokenRule{"locale editor: " + *broken};
+    }
+    return std::nullopt;
+}
+
+} // namespace morvel::reliability

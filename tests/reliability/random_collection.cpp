@@ -1,0 +1,114 @@
+#include "reliability/random_collection.h"
+
+#include "catalogue/field_types.h"
+#include "fields/error.h"
+
+#include <array>
+#include <string_view>
+
+namespace morvel::reliability {
+
+namespace {
+
+// Every key the panel reads or the handlers write, so that loads meet stored values of every
+// kind and edits meet keys that exist already.
+constexpr std::array<std::string_view, 33> kPropertyKeys{
+    "Encyrpt.Type",   "Encyrpt.KeyLen", "Sign.Type",        "Sign.KeyLen",   "Sign.Flds",
+    "zrDirect.ST",    "zrDirect.STF",   "zrDirect.ConnStr", "ADO.ConnStr",   "ADO.Table",
+    "ADO.ID",         "ADO.IDField",    "ADO.Disp",         "ADO.DispField", "ADO.Select",
+    "ADO.SQL",        "SubLnk.Lnk",     "SubLnk.Tbl",       "SubLnk.PID",    "SubLnk.DN",
+    "SubLnk.OB",      "zrDirect.OT",    "zrDirect.Q",       "zrDirect.IQ",   "zrDirect.S",
+    "zrDirect.OB",    "zrDirect.Disp",  "zrDirect.Disp123", "zrDirect.ID",   "zrDirect.Select",
+    "zrDirect.Table", "Lnk.Parent",     "LDN1036"};
+
+Value randomValue(RandomSource& random) {
+    switch (random.between(0, 5)) {
+    case 0:
+        return Value(random.between(-3, 3));
+    case 1:
+        return Value(random.pick(std::vector<std::int32_t>{0, 1, 2, 64, 128, 192, 256, 448, 512}));
+    case 2:
+        return Value(random.chance(0.5));
+    case 3:
+        return Value(random.numberish());
+    default:
+        return Value(random.text());
+    }
+}
+
+std::string localeNumber(RandomSource& random) {
+    return std::to_string(random.pick(std::vector<std::int32_t>{1031, 1033, 1036, 2057, 3082}));
+}
+
+} // namespace
+
+std::int32_t randomTypeCode(RandomSource& random) {
+    if (random.chance(0.02))
+        return random.chance(0.5) ? 10005 : random.between(-5, 99999);
+    const auto types = catalogue::offeredTypes();
+    return types[random.index(types.size())].itemData;
+}
+
+std::shared_ptr<FieldDef> randomField(RandomSource& random) {
+    auto field = std::make_shared<FieldDef>(random.fieldName(), randomTypeCode(random));
+    if (random.chance(0.6))
+        field->SetDisplayName(random.text());
+    if (random.chance(0.3))
+        field->SetDescription(random.text());
+    if (random.chance(0.3))
+        field->SetDefaultValue(random.text());
+    if (random.chance(0.5))
+        field->SetSize(random.chance(0.9) ? random.between(0, 4000) : random.between(-9, -1));
+    field->SetValidation(random.chance(0.95) ? random.between(0, 2) : random.between(3, 9));
+    field->SetCreateOnDemand(random.chance(0.2));
+    if (random.chance(0.5))
+        field->SetCtrlEdit(random.chance(0.5) ? "TEXTBOX" : random.word(8));
+    if (random.chance(0.5))
+        field->SetCtrlReadOnly(random.chance(0.5) ? "LABEL" : random.word(8));
+    if (random.chance(0.3))
+        field->SetCtrlList(random.word(8));
+
+    const std::int32_t settings = random.between(0, 8);
+    for (std::int32_t i = 0; i < settings; ++i)
+        field->Properties().SetValue(kPropertyKeys[random.index(kPropertyKeys.size())],
+                                     randomValue(random), true);
+
+    if (catalogue::isListType(field->FieldType()) || random.chance(0.05)) {
+        const std::int32_t values = random.between(0, 6);
+        for (std::int32_t i = 0; i < values; ++i) {
+            const std::string key = random.chance(0.9)
+                                        ? std::to_string(std::int64_t{1} << random.between(0, 31))
+                                        : random.numberish();
+            field->ListValues().SetValue(key, Value(random.word(8)), true);
+        }
+    }
+
+    // Locales as the editor writes them, now and then with descriptions only, and rarely with keys
+    // no editor writes.
+    const std::int32_t locales = random.chance(0.7) ? 0 : random.between(1, 3);
+    const bool descriptionsOnly = random.chance(0.2);
+    for (std::int32_t i = 0; i < locales; ++i) {
+        const std::string n = localeNumber(random);
+        if (!descriptionsOnly)
+            field->SetLocaleDisplayName(n, random.text());
+        if (random.chance(0.7))
+            field->SetLocaleDescription(n, random.text());
+    }
+    if (random.chance(0.01))
+        field->Locales().SetValue(random.pick(std::vector<std::string>{"D", "DN", "X1", "DN 7"}),
+                                  Value(random.word(4)), true);
+    return field;
+}
+
+std::shared_ptr<FieldDefs> randomCollection(std::uint64_t seed, std::int32_t count) {
+    RandomSource random(seed);
+    auto fields = std::make_shared<FieldDefs>();
+    while (fields->Count() < count) {
+        auto field = randomField(random);
+        if (!fields->find(field->Name()))
+            fields->Add(std::move(field));
+    }
+    return fields;
+}
+
+} // namespace morvel::reliability

@@ -1,0 +1,96 @@
+#include "reliability/storage_faults.h"
+
+#include <atomic>
+#include <sqlite3.h>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace morvel::reliability {
+
+namespace {
+
+std::string describe(const PropertyStore& store) {
+    std::string text;
+    for (const ListEntry& entry : store)
+        text += entry.Key + "=" + kindName(entry.Value.kind()) + ":" + entry.Value.toText() + ";";
+    return text;
+}
+
+std::atomic<std::int64_t> g_pageLimit = 0;
+
+int applyPageLimit(sqlite3* db, char**, const sqlite3_api_routines*) {
+    if (const std::int64_t limit = g_pageLimit.load(); limit > 0)
+        sqlite3_exec(db, ("PRAGMA max_page_count = " + std::to_string(limit)).c_str(), nullptr,
+                     nullptr, nullptr);
+    return SQLITE_OK;
+}
+
+std::string firstAnswer(const std::filesystem::path& path, const char* sql) {
+    sqlite3* db = nullptr;
+    std::string answer = "cannot open";
+    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK) {
+        sqlite3_stmt* statement = nullptr;
+        answer = "no answer";
+        if (sqlite3_prepare_v2(db, sql, -1, &statement, nullptr) == SQLITE_OK &&
+            sqlite3_step(statement) == SQLITE_ROW)
+            answer = reinterpret_cast<const char*>(sqlite3_column_text(statement, 0));
+        else
+            answer = sqlite3_errmsg(db);
+        sqlite3_finalize(statement);
+    }
+    sqlite3_close(db);
+    return answer;
+}
+
+} // namespace
+
+std::string describe(const FieldDefs& fields) {
+    std::string text;
+    for (const auto& f : fields)
+        text += f->Name() + "|" + f->Description() + "|" + f->DisplayName() + "|" +
+                std::to_string(f->FieldType()) + "|" + std::to_string(f->Size()) + "|" +
+                f->DefaultValue() + "|" + f->CtrlEdit() + "|" + f->CtrlReadOnly() + "|" +
+                f->CtrlList() + "|" + std::to_string(f->Validation()) + "|" +
+                (f->CreateOnDemand() ? "COD" : "") + "|P:" + describe(f->Properties()) +
+                "|L:" + describe(f->ListValues()) + "|T:" + describe(f->Locales()) + "\n";
+    return text;
+}
+
+std::string integrityCheck(const std::filesystem::path& path) {
+    return firstAnswer(path, "PRAGMA integrity_check");
+}
+
+void rollBackHotJournal(const std::filesystem::path& path) {
+    sqlite3* db = nullptr;
+    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK)
+        sqlite3_exec(db, "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+}
+
+std::int64_t pageCount(const std::filesystem::path& path) {
+    return std::stoll(firstAnswer(path, "PRAGMA page_count"));
+}
+
+void limitDatabasePages(std::int64_t pages) {
+    static const bool registered = [] {
+        // SQLite's documented way to run code on every new connection.
+        sqlite3_auto_extension(reinterpret_cast<void (*)()>(&applyPageLimit));
+        return true;
+    }();
+    (void)registered;
+    g_pageLimit = pages;
+}
+
+ScratchDir::ScratchDir() {
+    static std::atomic<int> counter = 0;
+    m_path = std::filesystem::temp_directory_path() /
+             ("morvel-reliability-" + std::to_string(::getpid()) + "-" + std::to_string(++counter));
+    std::filesystem::create_directories(m_path);
+}
+
+ScratchDir::~ScratchDir() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+} // namespace morvel::reliability

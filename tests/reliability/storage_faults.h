@@ -1,0 +1,40 @@
+#pragma once
+
+#include "fields/field_defs.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+namespace morvel::reliability {
+
+// Every member and every stored value with its kind, field by field in order: two definitions
+// are the same exactly when their descriptions are.
+std::string describe(const FieldDefs& fields);
+
+// SQLite's own verdict on the whole file ("ok" when sound), read through a read-only connection.
+std::string integrityCheck(const std::filesystem::path& path);
+// Opens the file for writing and reads from it, which makes SQLite roll back a journal that a
+// killed writer left behind.
+void rollBackHotJournal(const std::filesystem::path& path);
+// Pages of the file as SQLite counts them.
+std::int64_t pageCount(const std::filesystem::path& path);
+
+// From now on every new SQLite connection of this process may grow its file to at most pages
+// pages, as a full disk would stop it; 0 lifts the limit.
+void limitDatabasePages(std::int64_t pages);
+
+// A directory of its own, removed with everything in it afterwards.
+class ScratchDir {
+public:
+    ScratchDir();
+    ScratchDir(const ScratchDir&) = delete;
+    ScratchDir& operator=(const ScratchDir&) = delete;
+    ~ScratchDir();
+    std::filesystem::path file(const std::string& name) const { return m_path / name; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+} // namespace morvel::reliability
