@@ -3,6 +3,7 @@
 #include "control/morvel_helpers.h"
 #include "fields/error.h"
 #include "fields/field_utility.h"
+#include "view/handler_policy.h"
 
 #include <functional>
 
@@ -107,8 +108,12 @@ void Morvel::leaveFocusedBox() {
     view::Control* focusedControl = focused();
     if (!focusedControl || focusedControl == &lst)
         return;
-    if (!lst.setFocus())
-        clearFocus();
+    // The host's change goes ahead whatever the pending edit meets: an edit the library refuses
+    // (an empty name, say) is dropped, as the panel is about to show another field.
+    view::skipFailingSteps([&] {
+        if (!lst.setFocus())
+            clearFocus();
+    });
 }
 
 void Morvel::SetFieldDefs(FieldDefsPtr poFieldDefs) {

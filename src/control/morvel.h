@@ -140,8 +140,8 @@ public:
 
 private:
     void wireEvents();
-    // Leaves the focused box before another field is shown, so that a box which stores its text
-    // on LostFocus stores it into the field it was typed for.
+    // Leaves the focused box before the host shows another field, so that a box which stores its
+    // text on LostFocus stores it into the field it was typed for.
     void leaveFocusedBox();
     // The field shown in the panel; NoCurrentFieldError when there is none.
     morvel::FieldDef& currentField() const;

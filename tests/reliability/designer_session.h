@@ -35,7 +35,6 @@ public:
     std::uint64_t allowedErrors() const { return m_allowedErrors; }
     std::uint64_t dialogSteps() const { return m_dialogSteps; }
     // Writes of the known fault that a host's addition commits a box into the added field.
-    std::uint64_t strayCommits() const { return m_strayCommits; }
 
 private:
     struct DialogOutcome;
@@ -68,7 +67,6 @@ private:
     Connection m_writeWatch;
     std::vector<const FieldDef*> m_written;
     std::size_t m_writtenOnLeave = 0;
-    mutable std::uint64_t m_strayCommits = 0;
     std::string m_firstWrite;
     std::uint64_t m_allowedErrors = 0;
     std::uint64_t m_dialogSteps = 0;
