@@ -3,6 +3,7 @@
 #include "fields/value.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace morvel {
@@ -16,6 +17,10 @@ public:
     // A Long is itself, True is -1 and False 0, empty is 0.
     static std::int32_t ToLong(const Value& value);
     static std::int32_t ToLong(std::string_view text);
+    // Text usually arrives as a std::string or a literal, which convert to a Value as readily as
+    // to a view; these overloads keep such calls unambiguous.
+    static std::int32_t ToLong(const std::string& text) { return ToLong(std::string_view(text)); }
+    static std::int32_t ToLong(const char* text) { return ToLong(std::string_view(text)); }
 
     // Whether text is a number as a person would type one: optional blanks, an optional sign,
     // digits with at most one decimal point among them, optional blanks.

@@ -1,0 +1,62 @@
+# shellcheck shell=bash
+# Shell code shared by scripts/setup and scripts/test. Source it; it runs nothing by itself.
+
+MORVEL_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+# What building, testing and running Morvel needs on Debian 12.
+MORVEL_PACKAGES=(
+    cmake ninja-build g++ pkg-config
+    qt6-base-dev libsqlite3-dev
+    libgtest-dev libgmock-dev googletest libbenchmark-dev
+    xvfb xauth libgl-dev
+)
+
+morvel_say() { printf '==> %s\n' "$*"; }
+
+# Prints the packages of MORVEL_PACKAGES that are not installed, one a line.
+morvel_missing_packages() {
+    local package
+    for package in "${MORVEL_PACKAGES[@]}"; do
+        if [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) != installed ]]; then
+            printf '%s\n' "$package"
+        fi
+    done
+}
+
+# Installs whatever is missing. As root it runs apt-get itself; otherwise it prints the command
+# to run and fails, so that nothing is built against half an environment.
+morvel_install_packages() {
+    if ! command -v dpkg-query >/dev/null 2>&1; then
+        echo "This script installs its packages with apt-get on Debian 12; install these by hand:" >&2
+        echo "  ${MORVEL_PACKAGES[*]}" >&2
+        return 1
+    fi
+    local missing
+    mapfile -t missing < <(morvel_missing_packages)
+    if ((${#missing[@]} == 0)); then
+        morvel_say "All required packages are installed."
+        return 0
+    fi
+    if [[ $(id -u) -ne 0 ]]; then
+        echo "Missing packages: ${missing[*]}" >&2
+        echo "Install them with:" >&2
+        echo "  sudo apt-get update && sudo apt-get install -y --no-install-recommends ${missing[*]}" >&2
+        return 1
+    fi
+    morvel_say "Installing ${missing[*]}"
+    export DEBIAN_FRONTEND=noninteractive
+    apt-get update
+    apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+# Build parallelism: the caller's CMAKE_BUILD_PARALLEL_LEVEL, else one job per core.
+morvel_jobs() { echo "${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}"; }
+
+# Configures and builds one preset. Configuring again is cheap and picks up packages installed
+# since the last run (the Qt layers are skipped when Qt was missing at configure time).
+morvel_build() {
+    local preset=$1
+    morvel_say "Configuring and building the '$preset' preset"
+    (cd "$MORVEL_ROOT" && cmake --preset "$preset" >/dev/null &&
+        cmake --build --preset "$preset" --parallel "$(morvel_jobs)")
+}

@@ -1,0 +1,102 @@
+#include "fields/error.h"
+#include "fields/field_def.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace morvel {
+namespace {
+
+// The store as one line: "key=value" per entry in enumeration order.
+std::string snapshot(const PropertyStore& store) {
+    std::string text;
+    for (const ListEntry& entry : store)
+        text += (text.empty() ? "" : "|") + entry.Key + "=" + entry.Value.toText();
+    return text;
+}
+
+struct Recorder : StoreObserver {
+    std::vector<std::string> seen;
+    void storeChanged(const PropertyStore&, const StoreChange& change) override {
+        static const char* const kActions[] = {"Added", "Changed", "Removed", "Cleared"};
+        seen.push_back(std::string(kActions[static_cast<int>(change.action)]) + " " + change.key +
+                       " " + change.oldValue.toText() + ">" + change.newValue.toText());
+    }
+};
+
+TEST(Value, KeepsItsKindAndComparesByKind) {
+    EXPECT_EQ(Value(7).kind(), Value::Kind::Long);
+    EXPECT_EQ(Value("7").kind(), Value::Kind::Text);
+    EXPECT_EQ(Value(true).kind(), Value::Kind::Boolean);
+    EXPECT_TRUE(Value().isEmpty());
+    // Same text when shown, different values: a Long 1 is neither "1" nor True.
+    EXPECT_NE(Value(1), Value("1"));
+    EXPECT_NE(Value(-1), Value(true));
+    EXPECT_NE(Value(0), Value(false));
+    EXPECT_NE(Value(""), Value());
+    EXPECT_EQ(Value(true).toText(), "True");
+    EXPECT_THROW(Value("7").asLong(), TypeMismatchError);
+    EXPECT_THROW(Value(7).asText(), TypeMismatchError);
+}
+
+TEST(PropertyStore, KeepsFirstStoredOrderAcrossUpdateRemoveAndReAdd) {
+    PropertyStore store;
+    store.SetValue("a", 1, true);
+    store.SetValue("b", "x", true);
+    store.SetValue("c", true, true);
+    store.SetValue("b", "y", true);
+    EXPECT_EQ(snapshot(store), "a=1|b=y|c=True");
+    store.Remove("a");
+    store.SetValue("a", 2, true);
+    EXPECT_EQ(snapshot(store), "b=y|c=True|a=2");
+    EXPECT_EQ(store.Count(), 3);
+}
+
+TEST(PropertyStore, AbsentKeysReadAsTheDefaultAndLookUpAsNothing) {
+    PropertyStore store;
+    store.SetValue("Encyrpt.Type", 2, true);
+    EXPECT_EQ(store.GetValue("Encyrpt.Type", 1), Value(2));
+    EXPECT_EQ(store.GetValue("Encyrpt.KeyLen", 0), Value(0));
+    EXPECT_EQ(store.GetValue("zrDirect.OB", "DisplayName"), Value("DisplayName"));
+    // Keys are case-exact.
+    EXPECT_EQ(store.GetValue("encyrpt.type", 1), Value(1));
+    ASSERT_NE(store.Lookup("Encyrpt.Type"), nullptr);
+    EXPECT_EQ(store.Lookup("Encyrpt.Type")->Value, Value(2));
+    EXPECT_EQ(store.Lookup("Sign.Type"), nullptr);
+}
+
+TEST(PropertyStore, AbsentKeyWithoutAddIfMissingIsStoredOnlyDuringARewrite) {
+    FieldDef field("Colour", 1100);
+    PropertyStore& store = field.ListValues();
+    EXPECT_FALSE(store.SetValue("I1", "One", false));
+    EXPECT_EQ(store.Count(), 0);
+    store.SetValue("I1", "One", true);
+    EXPECT_TRUE(store.SetValue("I1", "Uno", false)); // existing keys always take the value
+    store.Clear();
+    EXPECT_TRUE(store.SetValue("I1", "One", false));
+    EXPECT_TRUE(store.SetValue("I2", "Two", false));
+    field.CommitListValues();
+    EXPECT_FALSE(store.SetValue("I3", "Three", false));
+    EXPECT_EQ(snapshot(store), "I1=One|I2=Two");
+}
+
+TEST(PropertyStore, TellsItsObserverEachChangeOnce) {
+    PropertyStore store;
+    Recorder recorder;
+    store.setObserver(&recorder);
+    store.SetValue("k", 1, true);
+    store.SetValue("k", 1, true); // same value: nothing changed
+    store.SetValue("k", "t", true);
+    store.Remove("k");
+    store.Remove("k"); // absent: harmless and silent
+    store.Clear();     // already empty
+    store.SetValue("k", false, true);
+    store.Clear();
+    EXPECT_EQ(recorder.seen,
+              (std::vector<std::string>{"Added k >1", "Changed k 1>t", "Removed k t>",
+                                        "Added k >False", "Cleared  >"}));
+}
+
+} // namespace
+} // namespace morvel
