@@ -60,7 +60,14 @@ const std::shared_ptr<Database>& MorvelWidget::database() const {
 }
 
 void MorvelWidget::setCanModifyExisting(bool canModifyExisting) {
+    if (canModifyExisting == m_morvel->CanModifyExisting())
+        return;
     m_morvel->SetCanModifyExisting(canModifyExisting);
+    if (!m_morvel->FieldDefs())
+        return;
+    // The locks are set when a field is shown: show the selected one again.
+    const FormBinding::FocusHold hold(*m_binding, nullptr);
+    guarded(this, [&] { m_morvel->ShowSelectedRow(); });
 }
 
 bool MorvelWidget::canModifyExisting() const {
