@@ -36,8 +36,10 @@ MorvelWidget::MorvelWidget(QWidget* parent)
 }
 
 MorvelWidget::~MorvelWidget() {
-    // The widgets stop following the control before the control goes.
+    // The widgets stop following the control, then go while the control they read (the list
+    // model reads the list view in place) is still there.
     m_binding.reset();
+    qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
 }
 
 void MorvelWidget::setFieldDefs(std::shared_ptr<FieldDefs> fieldDefs) {
