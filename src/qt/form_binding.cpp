@@ -141,11 +141,7 @@ void FormBinding::focusLeft(Qt::FocusReason reason) {
 }
 
 void FormBinding::releaseFocus() {
-    view::Control* focused = m_form.focused();
-    if (!focused)
-        return;
-    m_form.forget(*focused);
-    guarded(&m_root, [&] { focused->LostFocus.emit(); });
+    guarded(&m_root, [&] { m_form.clearFocus(); });
 }
 
 bool FormBinding::eventFilter(QObject* watched, QEvent* event) {

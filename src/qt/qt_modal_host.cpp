@@ -1,31 +1,12 @@
 #include "qt/qt_modal_host.h"
 
-#include "dialogs/frm_locale.h"
 #include "qt/error_boundary.h"
 #include "qt/form_binding.h"
 #include "view/form.h"
 
 #include <QDialog>
-#include <QHeaderView>
-#include <QTreeView>
 
 namespace morvel::qt {
-
-namespace {
-
-// The locale editor sizes its columns to their texts but leaves the widths for the front end to
-// apply, as a list view's own columns keep their design widths.
-void showComputedColumnWidths(view::Form& form, const FormBinding& binding) {
-    auto* locale = dynamic_cast<dialogs::frmLocale*>(&form);
-    if (!locale)
-        return;
-    auto* tree = binding.widgetAs<QTreeView>(locale->lstLocale);
-    const std::vector<std::int32_t>& widths = locale->columnWidths();
-    for (std::size_t i = 0; tree && i < widths.size(); ++i)
-        tree->header()->resizeSection(static_cast<int>(i), binding.scale().columnPixels(widths[i]));
-}
-
-} // namespace
 
 void QtModalHost::showModal(view::Form& form) {
     QDialog dialog(m_parent ? m_parent->window() : nullptr);
@@ -37,7 +18,6 @@ void QtModalHost::showModal(view::Form& form) {
         dialog.setFixedSize(dialog.size());
     else
         dialog.setMinimumSize(dialog.size());
-    showComputedColumnWidths(form, binding);
     Connection closed = form.Closed.connect([&dialog] { dialog.done(QDialog::Accepted); });
     form.opened();
     if (m_hook)
