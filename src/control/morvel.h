@@ -1,0 +1,169 @@
+#pragma once
+
+#include "control/morvel_controls.h"
+#include "control/property_bag.h"
+#include "fields/database.h"
+#include "fields/field_defs.h"
+#include "fields/signal.h"
+#include "view/form.h"
+#include "view/modal_host.h"
+#include "view/prompter.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace morvel::control {
+
+// The field designer: a list of a table's fields and a tabbed property panel for the selected
+// one. Every edit is written at once into the FieldDef shown; the host decides when to save.
+//
+// The host provides the prompter (message and input boxes) and the modal host (the two editor
+// dialogs). The controls are public so that a front end can mirror them and tests can drive them
+// as a person would; the handlers run from the controls' events.
+class Morvel : public view::Form, public MorvelControls {
+public:
+    using FieldDefsPtr = std::shared_ptr<morvel::FieldDefs>;
+    using FieldDefPtr = std::shared_ptr<morvel::FieldDef>;
+    using DatabasePtr = std::shared_ptr<morvel::Database>;
+
+    Morvel(view::Prompter& prompter, view::ModalHost& modalHost);
+    ~Morvel() override;
+
+    // Public properties.
+    const FieldDefsPtr& FieldDefs() const { return moFieldDefs; }
+    void SetFieldDefs(FieldDefsPtr poFieldDefs);
+    const DatabasePtr& Database() const { return m_database; }
+    void SetDatabase(DatabasePtr poDatabase) { m_database = std::move(poDatabase); }
+    bool CanModifyExisting() const { return m_canModifyExisting; }
+    void SetCanModifyExisting(bool pbCanModifyExisting) {
+        m_canModifyExisting = pbCanModifyExisting;
+    }
+    const FieldDefPtr& SelectedFieldDef() const { return m_currentField; }
+
+    // Persisted settings ("CME").
+    void UserControl_ReadProperties(const PropertyBag& bag);
+    void UserControl_WriteProperties(PropertyBag& bag) const;
+
+    // Raised whenever another field (or none) becomes the current field.
+    Signal<const FieldDefPtr&> currentFieldChanged;
+
+    // Choice lists from the catalogues.
+    void FillTypeList(view::ComboBox& list);
+    std::string GetTypeName(std::int32_t code) const;
+    void FillValidationList(view::ComboBox& list);
+    std::string GetValidationName(std::int32_t code) const;
+    void FillEditTemplates(std::int32_t code);
+    void FillReadOnlyTemplates(std::int32_t code);
+    void FillCipherList(view::ComboBox& list);
+    void FillHashList(view::ComboBox& list);
+    void FillCipherKeyLengths(view::ComboBox& list, std::int32_t cipherCode);
+    void FillHashKeyLengths(view::ComboBox& list, std::int32_t hashCode);
+    // Selects the first entry with that item data, with the loading flag set so that the
+    // combo's click handler does not take the move for an edit.
+    void SelectByItemData(view::ComboBox& list, std::int32_t value);
+
+    // Field list.
+    void FillList();
+    void ShowSelectedRow();
+    void moFieldDefs_AfterAdd(const FieldDefPtr& eoFieldDef);
+    void moFieldDefs_AfterRemove(const FieldDefPtr& eoFieldDef);
+    void lst_ItemClick(view::ListItem& item);
+    void lst_Click();
+
+    // Panel loading, type changes and tabs.
+    void LoadPanel();
+    void cboType_Click();
+    void TabStrip_Click();
+
+    // Basic attributes.
+    void txtName_Change();
+    void txtName_LostFocus();
+    void txtSize_Change();
+    void txtDisplayName_Change();
+    void txtDescription_Change();
+    void txtDefault_Change();
+    void txtCtrlEdit_Change();
+    void txtCtrlEdit_LostFocus();
+    void txtCtrlReadOnly_Change();
+    void txtCtrlReadOnly_LostFocus();
+    void txtCtrlList_Change();
+    void cboValidation_Click();
+    void chkCreateOnDemand_Click();
+    void txtStatus_Change();
+    void cmdList_Click();
+    void cmdLocale_Click();
+
+    // Link, database, sub table and sub link settings.
+    void txtTable_Change();
+    void txtIDField_Change();
+    void txtDispField_Change();
+    void txtSQL_Change();
+    void txtConnStr_Change();
+    void txtLinkTableName_Change();
+    void cboLinkTableName_Change();
+    void cboLinkTableName_Click();
+    void txtLinkIDField_Change();
+    void txtLinkDisplayField_Change();
+    void txtLinkSelect_Change();
+    void txtCoreFilter_Change();
+    void txtAdditionalFilter_Change();
+    void txtOrderField_Change();
+    void txtObjectType_Change();
+    void chkLinkParent_Click();
+    void txtSubTable_Change();
+    void txtSubTableFieldID_Change();
+    void cboSubTable_Click();
+    void txtSubLinkTable_LostFocus();
+    void txtSubLinkPIDField_LostFocus();
+    void txtSubLinkDisplayName_LostFocus();
+    void txtSubLinkOrderBy_LostFocus();
+    void cboLinkFields_Click();
+    void LoadSubTableList();
+    void LoadLinkTableList();
+
+    // Find.
+    void cmdFind_Click();
+    void cmdFindNext_Click();
+
+    // Encryption and signature.
+    void cboEncryption_Click();
+    void cboEncryptionKeyLen_Click();
+    void cboSignatureHash_Click();
+    void cboSignatureKeyLen_Click();
+    void txtSignatureFields_LostFocus();
+
+    // Layout.
+    void UserControl_Resize();
+    void pic_Resize(std::int32_t Index);
+    void ArrangeTypeRow();
+
+private:
+    void wireEvents();
+    // The field shown in the panel; NoCurrentFieldError when there is none.
+    morvel::FieldDef& currentField() const;
+    // Sets the cell of the current row in the column with that key.
+    void setCell(std::string_view columnKey, std::string text);
+    void enableBasicControls(bool enabled);
+
+    view::Prompter& m_prompter;
+    view::ModalHost& m_modalHost;
+    Connections m_wiring;
+
+    FieldDefsPtr moFieldDefs;
+    Connections m_collectionWiring;
+    FieldDefPtr m_currentField;
+    view::ListItem* m_currentRow = nullptr;
+    DatabasePtr m_database;
+    std::string m_searchText;
+    bool m_canModifyExisting = false;
+    // Set only while SelectByItemData moves a combo selection.
+    bool m_loading = false;
+    // Set while LoadPanel fills the panel: showing a field must not write to it, so the change
+    // handlers of the boxes neither write to the field nor mirror into the row meanwhile.
+    bool m_panelLoading = false;
+    bool m_subTableListLoaded = false;
+    bool m_linkTableListLoaded = false;
+};
+
+} // namespace morvel::control

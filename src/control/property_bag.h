@@ -1,0 +1,32 @@
+#pragma once
+
+#include "fields/value.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace morvel::control {
+
+// Where the host keeps the control's persisted settings between sessions.
+class PropertyBag {
+public:
+    virtual ~PropertyBag() = default;
+    virtual Value ReadProperty(std::string_view name, const Value& defaultValue) const = 0;
+    virtual void WriteProperty(std::string_view name, const Value& value,
+                               const Value& defaultValue) = 0;
+};
+
+// A property bag in memory, for tests and for hosts that persist it themselves.
+class MemoryPropertyBag : public PropertyBag {
+public:
+    Value ReadProperty(std::string_view name, const Value& defaultValue) const override;
+    void WriteProperty(std::string_view name, const Value& value,
+                       const Value& defaultValue) override;
+    const std::map<std::string, Value, std::less<>>& values() const { return m_values; }
+
+private:
+    std::map<std::string, Value, std::less<>> m_values;
+};
+
+} // namespace morvel::control

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "control/morvel.h"
+#include "fields/field_defs.h"
+#include "fields/in_memory_database.h"
+#include "view/modal_host.h"
+#include "view/scripted_prompter.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace morvel::testing {
+
+// A designer driven as a person would drive it, with a scripted prompter, a scripted modal host
+// and an in-memory database that records every search.
+class DesignerTest : public ::testing::Test {
+protected:
+    DesignerTest() : designer(prompter, modalHost) { designer.move(0, 0, 12000, 9000); }
+
+    // A collection with the given (name, type) fields, handed to the designer.
+    std::shared_ptr<FieldDefs> give(std::initializer_list<std::pair<std::string, int>> fields) {
+        auto defs = std::make_shared<FieldDefs>();
+        for (const auto& [name, type] : fields)
+            defs->Add(name, type);
+        designer.SetFieldDefs(defs);
+        return defs;
+    }
+
+    std::shared_ptr<InMemoryDatabase> attachDatabase() {
+        auto db = std::make_shared<InMemoryDatabase>();
+        db->addTable({1, "Customers", "Customers", 2});
+        db->addTable({2, "Products", "Product Catalogue", 2});
+        db->addTable({3, "OrderLines", "Order Lines", 4});
+        db->addTable({4, "Addresses", "Addresses", 4});
+        designer.SetDatabase(db);
+        return db;
+    }
+
+    // Types text one character at a time, as a keyboard would: one Change per keystroke.
+    static void typeInto(view::TextBox& box, std::string_view text) {
+        std::string typed = box.text();
+        for (char c : text) {
+            typed += c;
+            box.type(typed);
+            typed = box.text();
+        }
+    }
+    static void typeInto(view::ComboBox& box, std::string_view text) {
+        std::string typed = box.text();
+        for (char c : text) {
+            typed += c;
+            box.type(typed);
+            typed = box.text();
+        }
+    }
+
+    // Picks the entry with that item data as a person would, from the drop-down.
+    static void pickByData(view::ComboBox& box, int data) {
+        for (int i = 0; i < box.listCount(); ++i)
+            if (box.itemData(i) == data) {
+                box.pick(i);
+                return;
+            }
+        ADD_FAILURE() << box.name() << " offers no entry with item data " << data;
+    }
+
+    // Clicks the row of that field.
+    void clickRow(std::string_view name) { designer.lst.clickItem(designer.lst.item(name)); }
+
+    // The list as one string: each row's text and cells joined by '|', rows by '\n'.
+    std::string listSnapshot() const {
+        std::string out;
+        const auto& lst = designer.lst;
+        for (int i = 1; i <= lst.count(); ++i) {
+            const auto& row = lst.item(i);
+            out += row.text();
+            for (int c = 1; c < lst.columnCount(); ++c)
+                out += "|" + row.subItem(c);
+            out += "\n";
+        }
+        return out;
+    }
+
+    view::ScriptedPrompter prompter;
+    view::ScriptedModalHost modalHost;
+    control::Morvel designer;
+};
+
+} // namespace morvel::testing
