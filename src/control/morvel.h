@@ -145,6 +145,14 @@ private:
     // Sets the cell of the current row in the column with that key.
     void setCell(std::string_view columnKey, std::string text);
     void enableBasicControls(bool enabled);
+    // Makes the field (or none) and its row current, raising currentFieldChanged on a change.
+    void setCurrent(FieldDefPtr field, view::ListItem* row);
+    // The link page's split between a link to a table (objectType 0) and a link to objects.
+    void ShowLinkControlsFor(std::int32_t objectType);
+    // Loads the type page of the current field; answers the caption of its tab, "" for none.
+    std::string LoadTypePage(morvel::FieldDef& field);
+    // Lock of the name, the type and (for pre-existing rows) the encryption settings.
+    bool mayModifyCurrentRow() const;
 
     view::Prompter& m_prompter;
     view::ModalHost& m_modalHost;

@@ -31,6 +31,10 @@ private:
 struct MorvelControls {
     explicit MorvelControls(view::Container& form);
 
+    // The size the form is designed at; the layout keeps the design heights of the panels.
+    static constexpr std::int32_t kDesignWidth = 6000;
+    static constexpr std::int32_t kDesignHeight = 7200;
+
     view::ListView lst;
     view::TabStrip TabStrip;
     view::Button cmdFind;

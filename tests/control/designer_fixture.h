@@ -67,6 +67,30 @@ protected:
         ADD_FAILURE() << box.name() << " offers no entry with item data " << data;
     }
 
+    // Selects the entry with that item data from code, as a host or a loader would: no focus,
+    // no lock check, Click raised when the selection moves.
+    static void selectByData(view::ComboBox& box, int data) {
+        for (int i = 0; i < box.listCount(); ++i)
+            if (box.itemData(i) == data) {
+                box.setListIndex(i);
+                return;
+            }
+        ADD_FAILURE() << box.name() << " offers no entry with item data " << data;
+    }
+
+    // The item data of the selected entry, or -1 when nothing is selected.
+    static int selectedData(const view::ComboBox& box) {
+        return box.listIndex() < 0 ? -1 : box.itemData(box.listIndex());
+    }
+
+    // The entries of a combo box, joined by '|'.
+    static std::string entries(const view::ComboBox& box) {
+        std::string out;
+        for (int i = 0; i < box.listCount(); ++i)
+            out += (i ? "|" : "") + box.list(i);
+        return out;
+    }
+
     // Clicks the row of that field.
     void clickRow(std::string_view name) { designer.lst.clickItem(designer.lst.item(name)); }
 

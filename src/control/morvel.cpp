@@ -1,0 +1,162 @@
+#include "control/morvel.h"
+
+#include "control/morvel_helpers.h"
+#include "fields/error.h"
+#include "fields/field_utility.h"
+
+#include <functional>
+
+namespace morvel::control {
+
+namespace {
+constexpr std::string_view kCanModifyExistingKey = "CME";
+} // namespace
+
+Morvel::Morvel(view::Prompter& prompter, view::ModalHost& modalHost)
+    : view::Form("Morvel")
+    , MorvelControls(static_cast<view::Container&>(*this))
+    , m_prompter(prompter)
+    , m_modalHost(modalHost) {
+    move(0, 0, kDesignWidth, kDesignHeight);
+    wireEvents();
+
+    FillTypeList(cboType);
+    FillValidationList(cboValidation);
+    FillCipherList(cboEncryption);
+    FillHashList(cboSignatureHash);
+    enableBasicControls(false);
+    // Type pages are added per field; only the general tab stays.
+    TabStrip.remove(2);
+    TabStrip_Click();
+}
+
+Morvel::~Morvel() = default;
+
+void Morvel::wireEvents() {
+    auto on = [this](Signal<>& event, void (Morvel::*handler)()) {
+        m_wiring += event.connect([this, handler] { (this->*handler)(); });
+    };
+
+    on(lst.Click, &Morvel::lst_Click);
+    m_wiring += lst.ItemClick.connect([this](view::ListItem& item) { lst_ItemClick(item); });
+    on(TabStrip.Click, &Morvel::TabStrip_Click);
+    on(Resize, &Morvel::UserControl_Resize);
+    for (std::int32_t i = 1; i <= PanelArray::kCount; ++i)
+        m_wiring += pic(i).Resize.connect([this, i] { pic_Resize(i); });
+    on(cmdFind.Click, &Morvel::cmdFind_Click);
+    on(cmdFindNext.Click, &Morvel::cmdFindNext_Click);
+
+    // General page.
+    on(txtName.Change, &Morvel::txtName_Change);
+    on(txtName.LostFocus, &Morvel::txtName_LostFocus);
+    on(txtDisplayName.Change, &Morvel::txtDisplayName_Change);
+    on(cboType.Click, &Morvel::cboType_Click);
+    on(cmdList.Click, &Morvel::cmdList_Click);
+    on(txtDescription.Change, &Morvel::txtDescription_Change);
+    on(txtDefault.Change, &Morvel::txtDefault_Change);
+    on(txtSize.Change, &Morvel::txtSize_Change);
+    on(chkCreateOnDemand.Click, &Morvel::chkCreateOnDemand_Click);
+    on(txtCtrlReadOnly.Change, &Morvel::txtCtrlReadOnly_Change);
+    on(txtCtrlReadOnly.LostFocus, &Morvel::txtCtrlReadOnly_LostFocus);
+    on(txtCtrlEdit.Change, &Morvel::txtCtrlEdit_Change);
+    on(txtCtrlEdit.LostFocus, &Morvel::txtCtrlEdit_LostFocus);
+    on(txtCtrlList.Change, &Morvel::txtCtrlList_Change);
+    on(cboValidation.Click, &Morvel::cboValidation_Click);
+    on(cmdLocale.Click, &Morvel::cmdLocale_Click);
+
+    // Link page.
+    on(txtObjectType.Change, &Morvel::txtObjectType_Change);
+    on(txtStatus.Change, &Morvel::txtStatus_Change);
+    on(cboLinkTableName.Change, &Morvel::cboLinkTableName_Change);
+    on(cboLinkTableName.Click, &Morvel::cboLinkTableName_Click);
+    on(txtLinkTableName.Change, &Morvel::txtLinkTableName_Change);
+    on(txtLinkIDField.Change, &Morvel::txtLinkIDField_Change);
+    on(txtLinkDisplayField.Change, &Morvel::txtLinkDisplayField_Change);
+    on(txtLinkSelect.Change, &Morvel::txtLinkSelect_Change);
+    on(txtCoreFilter.Change, &Morvel::txtCoreFilter_Change);
+    on(txtAdditionalFilter.Change, &Morvel::txtAdditionalFilter_Change);
+    on(txtOrderField.Change, &Morvel::txtOrderField_Change);
+    on(chkLinkParent.Click, &Morvel::chkLinkParent_Click);
+
+    // Database page.
+    on(txtConnStr.Change, &Morvel::txtConnStr_Change);
+    on(txtTable.Change, &Morvel::txtTable_Change);
+    on(txtIDField.Change, &Morvel::txtIDField_Change);
+    on(txtDispField.Change, &Morvel::txtDispField_Change);
+    on(txtSQL.Change, &Morvel::txtSQL_Change);
+
+    // Sub table and sub link pages.
+    on(cboSubTable.Click, &Morvel::cboSubTable_Click);
+    on(txtSubTable.Change, &Morvel::txtSubTable_Change);
+    on(txtSubTableFieldID.Change, &Morvel::txtSubTableFieldID_Change);
+    on(cboLinkFields.Click, &Morvel::cboLinkFields_Click);
+    on(txtSubLinkTable.LostFocus, &Morvel::txtSubLinkTable_LostFocus);
+    on(txtSubLinkPIDField.LostFocus, &Morvel::txtSubLinkPIDField_LostFocus);
+    on(txtSubLinkDisplayName.LostFocus, &Morvel::txtSubLinkDisplayName_LostFocus);
+    on(txtSubLinkOrderBy.LostFocus, &Morvel::txtSubLinkOrderBy_LostFocus);
+
+    // Signature and encryption pages.
+    on(cboSignatureHash.Click, &Morvel::cboSignatureHash_Click);
+    on(cboSignatureKeyLen.Click, &Morvel::cboSignatureKeyLen_Click);
+    on(txtSignatureFields.LostFocus, &Morvel::txtSignatureFields_LostFocus);
+    on(cboEncryption.Click, &Morvel::cboEncryption_Click);
+    on(cboEncryptionKeyLen.Click, &Morvel::cboEncryptionKeyLen_Click);
+}
+
+void Morvel::SetFieldDefs(FieldDefsPtr poFieldDefs) {
+    // Dropping the old subscriptions first: from now on only the new collection is heard.
+    m_collectionWiring.clear();
+    moFieldDefs = std::move(poFieldDefs);
+    if (moFieldDefs) {
+        m_collectionWiring += moFieldDefs->AfterAdd.connect(
+            [this](const FieldDefPtr& field) { moFieldDefs_AfterAdd(field); });
+        m_collectionWiring += moFieldDefs->AfterRemove.connect(
+            [this](const FieldDefPtr& field) { moFieldDefs_AfterRemove(field); });
+    }
+    FillList();
+    ShowSelectedRow();
+}
+
+void Morvel::UserControl_ReadProperties(const PropertyBag& bag) {
+    const Value stored = bag.ReadProperty(kCanModifyExistingKey, false);
+    m_canModifyExisting = stored.kind() == Value::Kind::Boolean ? stored.asBoolean()
+                                                                : FieldUtility::ToLong(stored) != 0;
+}
+
+void Morvel::UserControl_WriteProperties(PropertyBag& bag) const {
+    bag.WriteProperty(kCanModifyExistingKey, m_canModifyExisting, false);
+}
+
+morvel::FieldDef& Morvel::currentField() const {
+    if (!m_currentField)
+        throw NoCurrentFieldError();
+    return *m_currentField;
+}
+
+void Morvel::setCell(std::string_view columnKey, std::string text) {
+    if (!m_currentRow)
+        throw InvalidOperationError("No row of the field list is current.");
+    // "Name" is the row's own text; every other column is a sub item.
+    if (columnKey == "Name") {
+        m_currentRow->setText(std::move(text));
+        return;
+    }
+    m_currentRow->setSubItem(lst.columnIndex(columnKey) - 1, std::move(text));
+}
+
+void Morvel::enableBasicControls(bool enabled) {
+    setAllEnabled({&txtDefault, &txtDescription, &txtDisplayName, &txtName, &txtSize, &cboType,
+                   &cboValidation, &lblDefault, &lblDescription, &lblDisplayName, &lblName,
+                   &lblSize, &lblType, &cmdList, &cmdLocale},
+                  enabled);
+}
+
+void Morvel::setCurrent(FieldDefPtr field, view::ListItem* row) {
+    m_currentRow = row;
+    if (field == m_currentField)
+        return;
+    m_currentField = std::move(field);
+    currentFieldChanged.emit(m_currentField);
+}
+
+} // namespace morvel::control

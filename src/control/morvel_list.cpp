@@ -1,0 +1,114 @@
+#include "catalogue/field_types.h"
+#include "catalogue/validation.h"
+#include "control/morvel.h"
+#include "view/handler_policy.h"
+
+#include <string>
+
+namespace morvel::control {
+
+namespace {
+
+constexpr std::string_view kNoModifyTag = ":NOMODIFY:";
+
+// The sub item of each column, looked up by key once per fill rather than once per cell.
+struct RowCells {
+    explicit RowCells(const view::ListView& list)
+        : type(list.columnIndex("Type") - 1)
+        , size(list.columnIndex("Size") - 1)
+        , displayName(list.columnIndex("DisplayName") - 1)
+        , validation(list.columnIndex("Validation") - 1)
+        , ctrlReadOnly(list.columnIndex("CtrlReadOnly") - 1)
+        , ctrlEdit(list.columnIndex("CtrlEdit") - 1)
+        , ctrlList(list.columnIndex("CtrlList") - 1) {}
+
+    void fill(view::ListItem& row, const FieldDef& field) const {
+        row.setSubItem(displayName, field.DisplayName());
+        row.setSubItem(type, std::string(catalogue::typeName(field.FieldType())));
+        // Only the text-like types have a size worth showing.
+        if (catalogue::hasSize(field.FieldType()))
+            row.setSubItem(size, std::to_string(field.Size()));
+        row.setSubItem(validation, std::string(catalogue::validationName(field.Validation())));
+        row.setSubItem(ctrlReadOnly, field.CtrlReadOnly());
+        row.setSubItem(ctrlEdit, field.CtrlEdit());
+        row.setSubItem(ctrlList, field.CtrlList());
+    }
+
+    std::int32_t type, size, displayName, validation, ctrlReadOnly, ctrlEdit, ctrlList;
+};
+
+} // namespace
+
+void Morvel::FillList() {
+    m_currentRow = nullptr;
+    lst.clear();
+    if (!moFieldDefs)
+        return;
+    const RowCells cells(lst);
+    for (const FieldDefPtr& field : *moFieldDefs) {
+        view::ListItem& row = lst.add(field->Name(), field->Name());
+        cells.fill(row, *field);
+        // Fields handed over with the collection; CanModifyExisting decides what they may change.
+        row.setTag(std::string(kNoModifyTag));
+    }
+    if (moFieldDefs->Count() != 0)
+        lst.setSelectedItem(&lst.item(1));
+}
+
+void Morvel::ShowSelectedRow() {
+    if (lst.count() == 0) {
+        setCurrent(nullptr, nullptr);
+        LoadPanel();
+        return;
+    }
+    view::ListItem* row = lst.selectedItem();
+    if (!row) {
+        setCurrent(nullptr, nullptr);
+        LoadPanel();
+        return;
+    }
+    // Keyed: the row's key is its field's name.
+    setCurrent(moFieldDefs->Item(row->key()), row);
+    LoadPanel();
+}
+
+void Morvel::moFieldDefs_AfterAdd(const FieldDefPtr& eoFieldDef) {
+    if (lst.find(eoFieldDef->Name()))
+        return;
+    view::ListItem& row = lst.add(eoFieldDef->Name(), eoFieldDef->Name());
+    RowCells(lst).fill(row, *eoFieldDef);
+    lst.setSelectedItem(&row);
+    setCurrent(eoFieldDef, &row);
+    lst.ensureVisible(row);
+    LoadPanel();
+    // The new field usually carries a default name: ready to be typed over.
+    txtName.setFocus();
+    txtName.selectAll();
+}
+
+void Morvel::moFieldDefs_AfterRemove(const FieldDefPtr& eoFieldDef) {
+    view::skipFailingSteps(
+        [&] {
+            view::ListItem& row = lst.item(eoFieldDef->Name());
+            // The row goes away; nothing may point at it until the selection routine runs.
+            if (m_currentRow == &row)
+                m_currentRow = nullptr;
+            lst.remove(eoFieldDef->Name());
+        },
+        [&] { lst.setSelectedItem(nullptr); }, [&] { lst.setSelectedItem(&lst.item(1)); },
+        [&] {
+            if (view::ListItem* selected = lst.selectedItem())
+                lst.ensureVisible(*selected);
+        },
+        [&] { ShowSelectedRow(); });
+}
+
+void Morvel::lst_ItemClick(view::ListItem&) {
+    ShowSelectedRow();
+}
+
+void Morvel::lst_Click() {
+    ShowSelectedRow();
+}
+
+} // namespace morvel::control

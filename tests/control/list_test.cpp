@@ -1,0 +1,93 @@
+#include "control/designer_fixture.h"
+
+namespace morvel::testing {
+namespace {
+
+using FieldList = DesignerTest;
+
+TEST_F(FieldList, RefillShowsEveryCellAndTagsEveryRowAsPreExisting) {
+    auto defs = std::make_shared<FieldDefs>();
+    auto code = defs->Add("Code", 8);
+    code->SetSize(12);
+    code->SetDisplayName("Product Code");
+    code->SetValidation(2);
+    code->SetCtrlReadOnly("VALUELABEL");
+    code->SetCtrlEdit("TEXTBOX");
+    code->SetCtrlList("LISTCELL");
+    defs->Add("Count", 3)->SetSize(9); // a size that its type does not show
+    defs->Add("Link", 1002)->SetValidation(7);
+    defs->Add("Ref", 10005);
+    designer.SetFieldDefs(defs);
+
+    EXPECT_EQ(listSnapshot(), "Code|VarChar|12|Product Code|Required Enforced|VALUELABEL|TEXTBOX|"
+                              "LISTCELL\n"
+                              "Count|Long|||Not Required|||\n"
+                              "Link|Sub Link|||Unknown|||\n"
+                              "Ref|System Reference|||Not Required|||\n");
+    for (int i = 1; i <= designer.lst.count(); ++i)
+        EXPECT_EQ(designer.lst.item(i).tag(), ":NOMODIFY:");
+    EXPECT_TRUE(designer.lst.item(1).selected());
+    EXPECT_EQ(designer.SelectedFieldDef(), code);
+    EXPECT_EQ(designer.txtName.text(), "Code");
+}
+
+TEST_F(FieldList, AddedFieldGetsAnUntaggedRowAndItsNameReadyToBeTypedOver) {
+    auto defs = give({{"A", 200}});
+    auto added = defs->Add("NewField", 8);
+    const auto& row = designer.lst.item("NewField");
+    EXPECT_EQ(row.tag(), "");
+    EXPECT_EQ(row.subItem(1), "VarChar");
+    EXPECT_EQ(row.subItem(2), "0");
+    EXPECT_TRUE(row.selected());
+    EXPECT_EQ(designer.SelectedFieldDef(), added);
+    EXPECT_TRUE(designer.txtName.hasFocus());
+    EXPECT_EQ(designer.txtName.selStart(), 0);
+    EXPECT_EQ(designer.txtName.selLength(), 8);
+}
+
+TEST_F(FieldList, AddingAFieldWhoseNameIsARowKeyAlreadyDoesNothing) {
+    auto defs = give({{"A", 200}, {"B", 3}});
+    // Renamed behind the list's back, so that a new "A" meets the old row's key.
+    defs->Item("A")->SetName("Renamed");
+    clickRow("B");
+    const std::string before = listSnapshot();
+    defs->Add("A", 3);
+    EXPECT_EQ(listSnapshot(), before);
+    EXPECT_EQ(designer.SelectedFieldDef(), defs->Item("B"));
+}
+
+TEST_F(FieldList, RemovingTheSelectedFieldSelectsAndShowsTheFirstRow) {
+    auto defs = give({{"A", 200}, {"B", 3}, {"C", 8}});
+    clickRow("C");
+    defs->Remove("C");
+    EXPECT_EQ(designer.lst.count(), 2);
+    EXPECT_TRUE(designer.lst.item("A").selected());
+    EXPECT_EQ(designer.SelectedFieldDef(), defs->Item("A"));
+    EXPECT_EQ(designer.txtName.text(), "A");
+
+    defs->Remove("A");
+    defs->Remove("B");
+    EXPECT_EQ(designer.lst.count(), 0);
+    EXPECT_EQ(designer.SelectedFieldDef(), nullptr);
+    EXPECT_FALSE(designer.txtName.enabled());
+}
+
+TEST_F(FieldList, TheReplacedCollectionIsNoLongerHeard) {
+    auto old = give({{"A", 200}});
+    give({{"B", 3}});
+    old->Add("X", 200);
+    old->Remove("A");
+    EXPECT_EQ(listSnapshot(), "B|Long|||Not Required|||\n");
+    EXPECT_EQ(designer.SelectedFieldDef()->Name(), "B");
+}
+
+TEST_F(FieldList, ClickingARowLoadsItsFieldThroughItsKey) {
+    auto defs = give({{"A", 200}, {"B", 1100}});
+    clickRow("B");
+    EXPECT_EQ(designer.SelectedFieldDef(), defs->Item("B"));
+    EXPECT_EQ(selectedData(designer.cboType), 1100);
+    EXPECT_TRUE(designer.cmdList.visible());
+}
+
+} // namespace
+} // namespace morvel::testing

@@ -1,0 +1,131 @@
+#include "control/designer_fixture.h"
+
+namespace morvel::testing {
+namespace {
+
+class TypeRules : public DesignerTest {
+protected:
+    // Pre-existing fields would have their type box locked; these tests change types freely.
+    TypeRules() { designer.SetCanModifyExisting(true); }
+
+    std::shared_ptr<FieldDef> giveOne(const std::string& name, int type, bool createOnDemand) {
+        auto defs = give({{name, type}});
+        auto field = defs->Item(name);
+        field->SetCreateOnDemand(createOnDemand);
+        designer.SetFieldDefs(defs);
+        return field;
+    }
+    void changeType(int code) { selectByData(designer.cboType, code); }
+    std::string cell(const char* column) const {
+        return designer.lst.selectedItem()->subItem(designer.lst.columnIndex(column) - 1);
+    }
+};
+
+TEST_F(TypeRules, SubTableToSignatureOnTheTypePageStaysOnTheNewTypePage) {
+    auto field = giveOne("Lines", 5000, false);
+    designer.TabStrip.click(2);
+    ASSERT_TRUE(designer.pic(4).visible());
+    changeType(10009);
+    EXPECT_EQ(field->FieldType(), 10009);
+    EXPECT_EQ(cell("Type"), "Signature");
+    ASSERT_EQ(designer.TabStrip.count(), 2);
+    EXPECT_EQ(designer.TabStrip.caption(2), "Signature");
+    EXPECT_EQ(designer.TabStrip.selectedIndex(), 2);
+    EXPECT_TRUE(designer.pic(6).visible());
+    EXPECT_FALSE(designer.pic(4).visible());
+    EXPECT_EQ(designer.txtName.text(), "zrSignature");
+    EXPECT_FALSE(designer.txtName.enabled());
+    EXPECT_EQ(designer.chkCreateOnDemand.value(), 1);
+}
+
+TEST_F(TypeRules, LeavingSignatureReplacesTheReservedNameAndFreesTheBox) {
+    giveOne("zrSignature", 10009, true);
+    changeType(3);
+    EXPECT_EQ(designer.txtName.text(), "NewField");
+    EXPECT_EQ(designer.chkCreateOnDemand.value(), 0);
+    EXPECT_EQ(designer.TabStrip.count(), 1);
+    EXPECT_TRUE(designer.txtName.enabled());
+    EXPECT_TRUE(designer.pic(1).visible());
+}
+
+TEST_F(TypeRules, AReservedNameInAnotherCaseIsAnOrdinaryName) {
+    giveOne("zrsignature", 200, true);
+    changeType(3);
+    EXPECT_EQ(designer.txtName.text(), "zrsignature");
+    EXPECT_EQ(designer.chkCreateOnDemand.value(), 1);
+}
+
+TEST_F(TypeRules, TenantForcesItsNameButLeavesCreateOnDemand) {
+    giveOne("Owner", 200, true);
+    changeType(10008);
+    EXPECT_EQ(designer.txtName.text(), "zrTenant");
+    EXPECT_FALSE(designer.txtName.enabled());
+    EXPECT_EQ(designer.chkCreateOnDemand.value(), 1);
+    EXPECT_EQ(designer.TabStrip.count(), 1);
+}
+
+TEST_F(TypeRules, SizedTypesShowTheBoxAndTheConvertedNumberInTheSizeColumn) {
+    giveOne("Code", 3, false);
+    designer.txtSize.setText("abc");
+    changeType(8);
+    EXPECT_EQ(cell("Size"), "0");
+    EXPECT_TRUE(designer.txtSize.visible());
+    EXPECT_TRUE(designer.lblSize.visible());
+
+    designer.txtSize.setText("40");
+    changeType(20008);
+    EXPECT_EQ(cell("Size"), "40");
+    EXPECT_EQ(designer.TabStrip.caption(2), "Encryption");
+
+    changeType(200);
+    EXPECT_EQ(cell("Size"), "");
+    EXPECT_FALSE(designer.txtSize.visible());
+    EXPECT_EQ(designer.TabStrip.count(), 1);
+}
+
+TEST_F(TypeRules, UnknownWritesTypeZeroWithoutAPage) {
+    auto field = giveOne("Odd", 1000, false);
+    changeType(0);
+    EXPECT_EQ(field->FieldType(), 0);
+    EXPECT_EQ(cell("Type"), "Unknown");
+    EXPECT_EQ(designer.TabStrip.count(), 1);
+}
+
+TEST_F(TypeRules, ListTypesPutTheValuesButtonBesideTheTypeBox) {
+    giveOne("Colour", 200, false);
+    changeType(1105);
+    ASSERT_TRUE(designer.cmdList.visible());
+    EXPECT_EQ(designer.cboType.geometry().right(), designer.cmdList.left() - 120);
+    changeType(200);
+    EXPECT_FALSE(designer.cmdList.visible());
+    EXPECT_EQ(designer.cboType.geometry().right(), designer.pic(1).scaleWidth());
+}
+
+TEST_F(TypeRules, LinkAndDirectoryTypesShowTheirConnectionControls) {
+    giveOne("Owner", 200, false);
+    changeType(1000);
+    EXPECT_TRUE(designer.chkLinkParent.visible());
+    EXPECT_TRUE(designer.txtTable.visible());
+    EXPECT_EQ(designer.TabStrip.caption(2), "Link Properties") << "the reload names the page";
+    changeType(1011);
+    EXPECT_FALSE(designer.chkLinkParent.visible());
+    EXPECT_TRUE(designer.txtSQL.visible());
+    changeType(3001);
+    EXPECT_TRUE(designer.txtConnStr.visible());
+    EXPECT_FALSE(designer.txtTable.visible());
+    EXPECT_FALSE(designer.lblSQL.visible());
+    designer.TabStrip.click(2);
+    EXPECT_TRUE(designer.pic(3).visible());
+}
+
+TEST_F(TypeRules, WithoutAFieldATypeClickOnlyTakesTheFocus) {
+    give({});
+    designer.cboType.setEnabled(true);
+    changeType(3);
+    EXPECT_EQ(designer.lst.count(), 0);
+    EXPECT_EQ(designer.TabStrip.count(), 1);
+    EXPECT_TRUE(designer.cboType.hasFocus());
+}
+
+} // namespace
+} // namespace morvel::testing
