@@ -1,0 +1,38 @@
+#include "headless_world.h"
+
+#include "field_generator.h"
+
+#include <map>
+#include <stdexcept>
+
+namespace morvel::bench {
+
+HeadlessWorld::HeadlessWorld(std::int32_t fieldCount)
+    : designer(prompter, modalHost)
+    , defs(makeFieldDefs(fieldCount)) {
+    designer.move(0, 0, 12000, 9000);
+    // Existing fields stay fully editable, so that a type change is measured, not refused.
+    designer.SetCanModifyExisting(true);
+    designer.SetFieldDefs(defs);
+}
+
+HeadlessWorld& HeadlessWorld::shared(std::int32_t fieldCount) {
+    static std::map<std::int32_t, std::unique_ptr<HeadlessWorld>> worlds;
+    auto& world = worlds[fieldCount];
+    if (!world)
+        world = std::make_unique<HeadlessWorld>(fieldCount);
+    return *world;
+}
+
+std::string HeadlessWorld::lastOfType(std::int32_t fieldType) const {
+    for (std::int32_t i = defs->Count(); i >= 1; --i)
+        if (defs->Item(i)->FieldType() == fieldType)
+            return defs->Item(i)->Name();
+    throw std::logic_error("the generated table has no field of type " + std::to_string(fieldType));
+}
+
+void HeadlessWorld::clickRow(const std::string& name) {
+    designer.lst.clickItem(designer.lst.item(name));
+}
+
+} // namespace morvel::bench
