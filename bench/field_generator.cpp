@@ -83,13 +83,20 @@ void addLinkSettings(FieldDef& field, std::int32_t index, bool ado) {
         props.SetValue("ADO.DispField", table + "Name", true);
         return;
     }
-    props.SetValue("zrDirect.Table", table + "s", true);
-    props.SetValue("zrDirect.ID", "zrID", true);
-    props.SetValue("zrDirect.Disp", table + "Name", true);
-    props.SetValue("zrDirect.Disp123", table + "Name", true);
-    props.SetValue("zrDirect.OB", table + "Name", true);
-    if (index % 3 == 0)
+    // Half the direct links point to objects (an object type, a filter, an order field), the
+    // other half to a table (its ID and display fields).
+    if (index % 2 == 0) {
+        props.SetValue("zrDirect.OT", 100 + index % 20, true);
+        props.SetValue("zrDirect.OB", table + "Name", true);
         props.SetValue("zrDirect.Q", "Active = 1", true);
+        if (index % 3 == 0)
+            props.SetValue("zrDirect.S", 1, true);
+    } else {
+        props.SetValue("zrDirect.Table", table + "s", true);
+        props.SetValue("zrDirect.ID", "zrID", true);
+        props.SetValue("zrDirect.Disp", table + "Name", true);
+        props.SetValue("zrDirect.Disp123", table + "Name", true);
+    }
     if (index % 5 == 0)
         props.SetValue("Lnk.Parent", true, true);
 }

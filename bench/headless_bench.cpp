@@ -77,8 +77,8 @@ void Headless_KeystrokeSize(State& state) {
 
 void Headless_KeystrokeOrderField(State& state) {
     HeadlessWorld& world = HeadlessWorld::shared(fieldCount(state));
-    world.clickRow(world.lastOfType(kLink));
-    // The order field is on the link page: the user opens it first.
+    // A link to objects shows the order field, on the link page that the user opens first.
+    world.clickRow(world.lastOfType(kLink, "zrDirect.OT"));
     world.designer.TabStrip.click(2);
     typeAlternately(state, world.designer.txtOrderField);
     world.designer.TabStrip.click(1);

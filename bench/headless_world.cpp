@@ -24,10 +24,13 @@ HeadlessWorld& HeadlessWorld::shared(std::int32_t fieldCount) {
     return *world;
 }
 
-std::string HeadlessWorld::lastOfType(std::int32_t fieldType) const {
-    for (std::int32_t i = defs->Count(); i >= 1; --i)
-        if (defs->Item(i)->FieldType() == fieldType)
-            return defs->Item(i)->Name();
+std::string HeadlessWorld::lastOfType(std::int32_t fieldType, std::string_view withProperty) const {
+    for (std::int32_t i = defs->Count(); i >= 1; --i) {
+        const FieldDef& field = *defs->Item(i);
+        if (field.FieldType() == fieldType &&
+            (withProperty.empty() || field.Properties().Lookup(withProperty)))
+            return field.Name();
+    }
     throw std::logic_error("the generated table has no field of type " + std::to_string(fieldType));
 }
 

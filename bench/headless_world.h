@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace morvel::bench {
 
@@ -20,8 +21,9 @@ struct HeadlessWorld {
     // the operations measured on them, and every benchmark leaves the world as it found it.
     static HeadlessWorld& shared(std::int32_t fieldCount);
 
-    // The name of the last field of that type, searching from the end of the collection.
-    std::string lastOfType(std::int32_t fieldType) const;
+    // The name of the last field of that type (and with that stored property, when a key is
+    // given), searching from the end of the collection.
+    std::string lastOfType(std::int32_t fieldType, std::string_view withProperty = {}) const;
     // Clicks the row of that field, as the user would.
     void clickRow(const std::string& name);
 
