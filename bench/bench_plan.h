@@ -15,12 +15,20 @@ struct SizePlan {
     int repetitions = 0;
 };
 
-// Registers the benchmark once per plan, named "<name>/<fields>/...", timed in real time.
+// Wall-clock time of the timed part, or of what the benchmark reports with SetIterationTime.
+enum class Timing { Real, Manual };
+
+// Registers the benchmark once per plan, named "<name>/<fields>/...".
 inline void registerPlans(const char* name, void (*function)(benchmark::State&),
-                          benchmark::TimeUnit unit, std::initializer_list<SizePlan> plans) {
+                          benchmark::TimeUnit unit, std::initializer_list<SizePlan> plans,
+                          Timing timing = Timing::Real) {
     for (const SizePlan& plan : plans) {
         auto* b = benchmark::RegisterBenchmark(name, function);
-        b->Arg(plan.fields)->UseRealTime()->Unit(unit);
+        b->Arg(plan.fields)->Unit(unit);
+        if (timing == Timing::Manual)
+            b->UseManualTime();
+        else
+            b->UseRealTime();
         if (plan.iterations > 0)
             b->Iterations(plan.iterations);
         if (plan.repetitions > 0)

@@ -13,6 +13,12 @@ HeadlessWorld::HeadlessWorld(std::int32_t fieldCount)
     designer.move(0, 0, 12000, 9000);
     // Existing fields stay fully editable, so that a type change is measured, not refused.
     designer.SetCanModifyExisting(true);
+    const auto notified = [this](const FieldDefs::FieldPtr&) {
+        if (onNotified)
+            onNotified();
+    };
+    m_probes += defs->AfterAdd.connect(notified);
+    m_probes += defs->AfterRemove.connect(notified);
     designer.SetFieldDefs(defs);
 }
 

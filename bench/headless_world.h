@@ -6,6 +6,7 @@
 #include "view/scripted_prompter.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -27,10 +28,17 @@ struct HeadlessWorld {
     // Clicks the row of that field, as the user would.
     void clickRow(const std::string& name);
 
+    // Called when the collection raises AfterAdd or AfterRemove, before the designer hears of it:
+    // the moment the designer's own work begins.
+    std::function<void()> onNotified;
+
     view::ScriptedPrompter prompter;
     view::ScriptedModalHost modalHost;
     control::Morvel designer;
     std::shared_ptr<FieldDefs> defs;
+
+private:
+    Connections m_probes;
 };
 
 } // namespace morvel::bench
