@@ -1,0 +1,56 @@
+#pragma once
+
+#include "control/morvel.h"
+#include "qt/form_binding.h"
+#include "qt/qt_modal_host.h"
+#include "qt/qt_prompter.h"
+
+#include <QWidget>
+#include <memory>
+
+namespace morvel::qt {
+
+// The field designer as a Qt widget: one Morvel control with its widgets, real message boxes
+// and modal editors. Hand it a table's FieldDefs (and optionally a Database for the link and
+// sub-table look-ups); every edit goes into those objects at once, and the host saves them when
+// it likes. Resizing the widget lays the designer out again; below 5000 x 5800 twips it does
+// not shrink. Ctrl+F finds a field by name, F3 finds the next one.
+class MorvelWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MorvelWidget(QWidget* parent = nullptr);
+    ~MorvelWidget() override;
+
+    void setFieldDefs(std::shared_ptr<FieldDefs> fieldDefs);
+    const std::shared_ptr<FieldDefs>& fieldDefs() const;
+    void setDatabase(std::shared_ptr<Database> database);
+    const std::shared_ptr<Database>& database() const;
+    void setCanModifyExisting(bool canModifyExisting);
+    bool canModifyExisting() const;
+    // The field shown in the panel, null when there is none.
+    std::shared_ptr<FieldDef> selectedField() const;
+
+    // Ends the edit in progress: the box that has the focus loses it, so that what was typed is
+    // written (a name is applied when its box loses the focus). Call it before saving.
+    void commitEdit();
+
+    // For hosts that need more than the above.
+    control::Morvel& morvel() { return *m_morvel; }
+    FormBinding& binding() { return *m_binding; }
+    QtModalHost& modalHost() { return m_modalHost; }
+
+    QSize sizeHint() const override;
+
+signals:
+    void selectedFieldChanged(std::shared_ptr<morvel::FieldDef> field);
+
+private:
+    QtPrompter m_prompter;
+    QtModalHost m_modalHost;
+    std::unique_ptr<control::Morvel> m_morvel;
+    std::unique_ptr<FormBinding> m_binding;
+    Connection m_currentField;
+};
+
+} // namespace morvel::qt

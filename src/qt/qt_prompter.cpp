@@ -1,0 +1,85 @@
+#include "qt/qt_prompter.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace morvel::qt {
+
+namespace {
+
+QString toQString(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString titleOf(const std::string& title) {
+    return title.empty() ? QApplication::applicationDisplayName() : toQString(title);
+}
+
+QMessageBox::Icon iconOf(view::MsgBoxIcon icon) {
+    switch (icon) {
+    case view::MsgBoxIcon::Critical:
+        return QMessageBox::Critical;
+    case view::MsgBoxIcon::Question:
+        return QMessageBox::Question;
+    case view::MsgBoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case view::MsgBoxIcon::Information:
+        return QMessageBox::Information;
+    case view::MsgBoxIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons buttonsOf(view::MsgBoxButtons buttons) {
+    switch (buttons) {
+    case view::MsgBoxButtons::OKCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case view::MsgBoxButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case view::MsgBoxButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case view::MsgBoxButtons::OK:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+} // namespace
+
+QWidget* QtPrompter::parentWindow() const {
+    if (m_parent)
+        return m_parent->window();
+    return QApplication::activeWindow();
+}
+
+view::MsgBoxResult QtPrompter::messageBox(const view::MessageBoxRequest& request) {
+    QMessageBox box(iconOf(request.icon), titleOf(request.title), toQString(request.prompt),
+                    buttonsOf(request.buttons), parentWindow());
+    // Closing the box with Escape or its close button answers its last button: No for a
+    // question without Cancel, as a person who does not want to go on would.
+    if (request.buttons == view::MsgBoxButtons::YesNo)
+        box.setEscapeButton(QMessageBox::No);
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return view::MsgBoxResult::Yes;
+    case QMessageBox::No:
+        return view::MsgBoxResult::No;
+    case QMessageBox::Ok:
+        return view::MsgBoxResult::OK;
+    default:
+        return request.buttons == view::MsgBoxButtons::OK ? view::MsgBoxResult::OK
+                                                          : view::MsgBoxResult::Cancel;
+    }
+}
+
+std::string QtPrompter::inputBox(const view::InputBoxRequest& request) {
+    bool ok = false;
+    const QString text =
+        QInputDialog::getText(parentWindow(), titleOf(request.title), toQString(request.prompt),
+                              QLineEdit::Normal, toQString(request.defaultText), &ok);
+    return ok ? text.toStdString() : std::string();
+}
+
+} // namespace morvel::qt

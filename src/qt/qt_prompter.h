@@ -1,0 +1,26 @@
+#pragma once
+
+#include "view/prompter.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace morvel::qt {
+
+// The designer's message and input boxes as real modal dialogs over the parent's window: a
+// QMessageBox with the request's text, buttons and icon (an empty title is the application's
+// name), and a QInputDialog whose Cancel answers the empty text.
+class QtPrompter : public view::Prompter {
+public:
+    explicit QtPrompter(QWidget* parent = nullptr)
+        : m_parent(parent) {}
+
+    view::MsgBoxResult messageBox(const view::MessageBoxRequest& request) override;
+    std::string inputBox(const view::InputBoxRequest& request) override;
+
+private:
+    QWidget* parentWindow() const;
+    QPointer<QWidget> m_parent;
+};
+
+} // namespace morvel::qt

@@ -1,0 +1,11 @@
+#include "qt/twip_scale.h"
+
+#include <QWidget>
+
+namespace morvel::qt {
+
+TwipScale TwipScale::of(const QWidget& widget) {
+    return TwipScale(widget.logicalDpiX());
+}
+
+} // namespace morvel::qt

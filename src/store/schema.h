@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+
+namespace morvel {
+
+class SqliteConnection;
+
+// The layout of a Morvel database file. The application id marks the file as ours; the user
+// version counts layout changes, so an older program refuses a file that a newer one wrote.
+namespace schema {
+
+inline constexpr std::int32_t kApplicationId = 0x4D52564C; // "MRVL"
+inline constexpr std::int32_t kVersion = 1;
+
+// Which keyed store of a field a value row belongs to.
+enum class Store : std::int32_t { Properties = 0, ListValues = 1, Locales = 2 };
+
+// Writes the empty layout into a new file, in one transaction.
+void create(SqliteConnection& connection);
+// Refuses, with a StoreError that says why, a file that is not a Morvel database, was written
+// by a newer version, or is damaged. Reads only.
+void verify(SqliteConnection& connection);
+// Settings of every connection that writes.
+void configure(SqliteConnection& connection);
+
+} // namespace schema
+} // namespace morvel

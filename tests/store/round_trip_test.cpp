@@ -1,0 +1,134 @@
+#include "fields/error.h"
+#include "store/schema_database.h"
+#include "store/store_error.h"
+#include "store/temp_dir.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace morvel {
+namespace {
+
+std::string describe(const PropertyStore& store) {
+    std::string text;
+    for (const ListEntry& entry : store)
+        text += entry.Key + "=" + kindName(entry.Value.kind()) + ":" + entry.Value.toText() + ";";
+    return text;
+}
+
+// Every member and every stored value with its kind, field by field in order.
+std::string describe(const FieldDefs& fields) {
+    std::string text;
+    for (const auto& f : fields)
+        text += f->Name() + "|" + f->Description() + "|" + f->DisplayName() + "|" +
+                std::to_string(f->FieldType()) + "|" + std::to_string(f->Size()) + "|" +
+                f->DefaultValue() + "|" + f->CtrlEdit() + "|" + f->CtrlReadOnly() + "|" +
+                f->CtrlList() + "|" + std::to_string(f->Validation()) + "|" +
+                (f->CreateOnDemand() ? "COD" : "") + "|P:" + describe(f->Properties()) +
+                "|L:" + describe(f->ListValues()) + "|T:" + describe(f->Locales()) + "\n";
+    return text;
+}
+
+TableDefinition richTable() {
+    TableDefinition table;
+    table.info = {0, "Invoices", "Invoices of the year", 2, 0};
+    FieldDef& a = *table.fields->Add("Amount", 6);
+    a.SetDescription("Total \"with\" tax");
+    a.SetDisplayName("Betrag \xE2\x82\xAC");
+    a.SetSize(-7);
+    a.SetDefaultValue("0,00");
+    a.SetCtrlEdit("CURRENCYBOX");
+    a.SetCtrlReadOnly("VALUELABEL");
+    a.SetCtrlList("TEXTBOX");
+    a.SetValidation(2);
+    a.SetCreateOnDemand(true);
+    // Keys out of alphabetical order, and values that look alike in text but differ in kind.
+    a.Properties().SetValue("zrDirect.OT", std::int32_t{12}, true);
+    a.Properties().SetValue("Encyrpt.Type", "12", true);
+    a.Properties().SetValue("Lnk.Parent", true, true);
+    a.Properties().SetValue("Flag", false, true);
+    a.Properties().SetValue("Nothing", Value(), true);
+    a.Properties().SetValue("Min", std::numeric_limits<std::int32_t>::min(), true);
+    a.Properties().SetValue("Max", std::numeric_limits<std::int32_t>::max(), true);
+    a.Properties().SetValue("Empty text", "", true);
+    a.Properties().SetValue("Nul", std::string("a\0b", 3), true);
+    a.ListValues().SetValue("8", "Eight", true);
+    a.ListValues().SetValue("1", "One", true);
+    a.SetLocaleDisplayName("1033", "Amount");
+    a.SetLocaleDescription("1031", "Gesamtbetrag");
+    table.fields->Add("Plain", 200);
+    return table;
+}
+
+TEST(RoundTrip, EveryMemberKeyAndKindComesBackInOrder) {
+    testing::TempDir dir;
+    TableDefinition original = richTable();
+    SchemaDatabase(dir.file("db")).saveAsNew(original);
+    EXPECT_EQ(original.info.revision, 1);
+
+    SchemaDatabase reopened(dir.file("db"));
+    const TableDefinition loaded = reopened.load("INVOICES");
+    EXPECT_EQ(describe(*loaded.fields), describe(*original.fields));
+    EXPECT_EQ(loaded.info.name, "Invoices");
+    EXPECT_EQ(loaded.info.displayName, "Invoices of the year");
+    EXPECT_EQ(loaded.info.tableType, 2);
+    EXPECT_EQ(loaded.info.id, original.info.id);
+    EXPECT_EQ(loaded.info.revision, 1);
+}
+
+TEST(RoundTrip, SaveReplacesFieldsAndCatalogueEntry) {
+    testing::TempDir dir;
+    SchemaDatabase database(dir.file("db"));
+    TableDefinition table = richTable();
+    database.saveAsNew(table);
+
+    TableDefinition edited = database.load(table.info.id);
+    edited.fields->Remove("Amount");
+    edited.fields->Insert(1, std::make_shared<FieldDef>("First", 3));
+    edited.fields->Item("Plain")->Properties().SetValue("k", "v", true);
+    edited.info.name = "Bills";
+    edited.info.displayName = "Bills";
+    database.save(edited);
+    EXPECT_EQ(edited.info.revision, 2);
+
+    EXPECT_EQ(describe(*database.load("Bills").fields), describe(*edited.fields));
+    ASSERT_EQ(database.tables().size(), 1u);
+    EXPECT_EQ(database.tables()[0].revision, 2);
+    EXPECT_THROW(database.load("Invoices"), NotFoundError);
+}
+
+TEST(RoundTrip, TableNamesAreUniqueIgnoringCase) {
+    testing::TempDir dir;
+    SchemaDatabase database(dir.file("db"));
+    TableDefinition first = richTable();
+    database.saveAsNew(first);
+    TableDefinition second = richTable();
+    second.info.name = "INVOICES";
+    EXPECT_THROW(database.saveAsNew(second), StoreError);
+    second.info.name = "";
+    EXPECT_THROW(database.saveAsNew(second), StoreError);
+    EXPECT_EQ(database.tables().size(), 1u);
+}
+
+// Linear in the number of fields; the test names the size, the timing is read from the output.
+TEST(RoundTrip, HundredThousandFields) {
+    testing::TempDir dir;
+    SchemaDatabase database(dir.file("db"));
+    TableDefinition table;
+    table.info.name = "Big";
+    for (std::int32_t i = 0; i < 100000; ++i) {
+        FieldDef& field = *table.fields->Add("F" + std::to_string(i), 8);
+        field.Properties().SetValue("zrDirect.OT", i, true);
+        field.Locales().SetValue("DN1033", "Field " + std::to_string(i), true);
+    }
+    database.saveAsNew(table);
+    database.save(table);
+    const TableDefinition loaded = database.load("Big");
+    ASSERT_EQ(loaded.fields->Count(), 100000);
+    EXPECT_EQ(loaded.fields->Item(100000)->Name(), "F99999");
+    EXPECT_EQ(loaded.fields->Item("f5000")->Properties().GetValue("zrDirect.OT", 0),
+              Value(std::int32_t{5000}));
+}
+
+} // namespace
+} // namespace morvel
