@@ -33,6 +33,8 @@ struct FrontEnd {
 
     static FrontEnd& shared(std::int32_t fieldCount) {
         static std::map<std::int32_t, std::unique_ptr<FrontEnd>> worlds;
+        if (worlds.empty())
+            whenQtEnds([] { worlds.clear(); });
         auto& world = worlds[fieldCount];
         if (!world) {
             world = std::make_unique<FrontEnd>(fieldCount);

@@ -13,5 +13,6 @@ int main(int argc, char** argv) {
         return 1;
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
+    morvel::bench::releaseQtWidgets();
     return 0;
 }

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QWidget>
+#include <vector>
 
 namespace morvel::bench {
 
@@ -33,6 +34,23 @@ bool PaintProbe::waitForPaint() {
         }
     }
     return false;
+}
+
+namespace {
+std::vector<std::function<void()>>& releasers() {
+    static std::vector<std::function<void()>> all;
+    return all;
+}
+} // namespace
+
+void whenQtEnds(std::function<void()> release) {
+    releasers().push_back(std::move(release));
+}
+
+void releaseQtWidgets() {
+    for (auto& release : releasers())
+        release();
+    releasers().clear();
 }
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <functional>
 
 class QEvent;
 class QWidget;
@@ -29,6 +30,11 @@ protected:
 private:
     int m_paints = 0;
 };
+
+// Widgets kept for the whole run must go before the QApplication does: shared() functions
+// register here how to drop theirs, and main runs it before returning.
+void whenQtEnds(std::function<void()> release);
+void releaseQtWidgets();
 
 // Every benchmark window is this size, shown on the offscreen platform.
 inline constexpr int kWindowWidth = 1200;

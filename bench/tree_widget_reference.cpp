@@ -42,6 +42,8 @@ struct TreeReference {
 
     static TreeReference& shared(std::int32_t fieldCount) {
         static std::map<std::int32_t, std::unique_ptr<TreeReference>> trees;
+        if (trees.empty())
+            whenQtEnds([] { trees.clear(); });
         auto& tree = trees[fieldCount];
         if (!tree) {
             tree = std::make_unique<TreeReference>(fieldCount);
