@@ -106,7 +106,7 @@ def rows(medians):
             ratio = ""
             ref = medians.get((reference, n)) if reference else None
             if ref and "ms" in ref:
-                ratio = f"{ms / ref['ms']:.2f}"
+                ratio = f"{ms / ref['ms']:.3g}"
             goal_text, met = "", ""
             if goal is not None:
                 goal_text = f"<= {fmt_ms(goal)}"
