@@ -40,11 +40,32 @@ private:
     view::Form& m_form;
 };
 
+namespace {
+
+// The designs are measured in twips for 8-point text in Tahoma or MS Sans Serif: the widgets use
+// that size, and a narrow sans serif where those fonts are missing, so captions fit their places.
+void useTheDesignFont(QWidget& root) {
+    static const bool substituted = [] {
+        const QStringList narrow{"DejaVu Sans Condensed", "Liberation Sans Narrow", "Arial"};
+        QFont::insertSubstitutions("Tahoma", narrow);
+        QFont::insertSubstitutions("MS Sans Serif", narrow);
+        return true;
+    }();
+    (void)substituted;
+    QFont font = root.font();
+    font.setFamily("Tahoma");
+    font.setPointSize(8);
+    root.setFont(font);
+}
+
+} // namespace
+
 FormBinding::FormBinding(view::Form& form, QWidget& root, RootSize rootSize)
     : m_form(form)
     , m_root(root)
     , m_scale(TwipScale::of(root))
     , m_rootSize(rootSize) {
+    useTheDesignFont(root);
     m_binders.push_back(std::make_unique<RootBinder>(*this, form, root));
     m_byControl.emplace(&form, m_binders.back().get());
     build(form, root);

@@ -36,8 +36,10 @@ MorvelWidget::MorvelWidget(QWidget* parent)
 }
 
 MorvelWidget::~MorvelWidget() {
-    // The widgets stop following the control before the control goes.
+    // The widgets stop following the control, then go while the control they read (the list
+    // model reads the list view in place) is still there.
     m_binding.reset();
+    qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
 }
 
 void MorvelWidget::setFieldDefs(std::shared_ptr<FieldDefs> fieldDefs) {
@@ -60,7 +62,14 @@ const std::shared_ptr<Database>& MorvelWidget::database() const {
 }
 
 void MorvelWidget::setCanModifyExisting(bool canModifyExisting) {
+    if (canModifyExisting == m_morvel->CanModifyExisting())
+        return;
     m_morvel->SetCanModifyExisting(canModifyExisting);
+    if (!m_morvel->FieldDefs())
+        return;
+    // The locks are set when a field is shown: show the selected one again.
+    const FormBinding::FocusHold hold(*m_binding, nullptr);
+    guarded(this, [&] { m_morvel->ShowSelectedRow(); });
 }
 
 bool MorvelWidget::canModifyExisting() const {

@@ -26,6 +26,7 @@ public:
     const std::shared_ptr<FieldDefs>& fieldDefs() const;
     void setDatabase(std::shared_ptr<Database> database);
     const std::shared_ptr<Database>& database() const;
+    // Takes effect at once: the field shown is shown again with the locks that follow.
     void setCanModifyExisting(bool canModifyExisting);
     bool canModifyExisting() const;
     // The field shown in the panel, null when there is none.
