@@ -70,17 +70,27 @@ void FieldDef::CommitListValues() {
     notify({*this, FieldMember::ListValuesCommitted, {}, {}, {}, {}});
 }
 
+namespace {
+// Appending instead of "D" + std::string(locale): GCC 12 at -O3 reports a false -Wrestrict for
+// operator+ on a literal and a temporary.
+std::string localeKey(std::string_view prefix, std::string_view locale) {
+    std::string key(prefix);
+    key += locale;
+    return key;
+}
+} // namespace
+
 std::string FieldDef::LocaleDescription(std::string_view locale) const {
-    return m_locales.GetValue("D" + std::string(locale), Value(std::string())).toText();
+    return m_locales.GetValue(localeKey("D", locale), Value(std::string())).toText();
 }
 void FieldDef::SetLocaleDescription(std::string_view locale, std::string text) {
-    m_locales.SetValue("D" + std::string(locale), Value(std::move(text)), true);
+    m_locales.SetValue(localeKey("D", locale), Value(std::move(text)), true);
 }
 std::string FieldDef::LocaleDisplayName(std::string_view locale) const {
-    return m_locales.GetValue("DN" + std::string(locale), Value(std::string())).toText();
+    return m_locales.GetValue(localeKey("DN", locale), Value(std::string())).toText();
 }
 void FieldDef::SetLocaleDisplayName(std::string_view locale, std::string text) {
-    m_locales.SetValue("DN" + std::string(locale), Value(std::move(text)), true);
+    m_locales.SetValue(localeKey("DN", locale), Value(std::move(text)), true);
 }
 
 Connection FieldDef::onChanged(std::function<void(const FieldChange&)> handler) {

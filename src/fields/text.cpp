@@ -20,10 +20,25 @@ bool equalsIgnoringCase(std::string_view a, std::string_view b) {
            });
 }
 
+// Runs on every row of a list in a search, so it neither copies nor calls out per character: it
+// looks for the needle's first letter in either case and compares the rest only there.
 bool containsIgnoringCase(std::string_view haystack, std::string_view needle) {
-    auto found = std::search(haystack.begin(), haystack.end(), needle.begin(), needle.end(),
-                             [](char x, char y) { return foldAscii(x) == foldAscii(y); });
-    return found != haystack.end() || needle.empty();
+    if (needle.empty())
+        return true;
+    if (needle.size() > haystack.size())
+        return false;
+    const char lower = foldAscii(needle.front());
+    const char upper =
+        (lower >= 'a' && lower <= 'z') ? static_cast<char>(lower - 'a' + 'A') : lower;
+    const std::string_view rest = needle.substr(1);
+    const std::size_t lastStart = haystack.size() - needle.size();
+    for (std::size_t i = 0; i <= lastStart; ++i) {
+        const char c = haystack[i];
+        if ((c == lower || c == upper) &&
+            equalsIgnoringCase(haystack.substr(i + 1, rest.size()), rest))
+            return true;
+    }
+    return false;
 }
 
 int compareIgnoringCase(std::string_view a, std::string_view b) {

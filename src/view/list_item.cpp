@@ -40,6 +40,10 @@ void ListItem::setSubItem(std::int32_t index, std::string text) {
     if (at >= m_subItems.size()) {
         if (text.empty())
             return;
+        // Room for every column at once: growing cell by cell reallocates the row several times
+        // and leaves it with up to twice the capacity it needs.
+        if (m_subItems.capacity() == 0)
+            m_subItems.reserve(static_cast<std::size_t>(m_owner.columnCount() - 1));
         m_subItems.resize(at + 1);
     }
     if (m_subItems[at] == text)

@@ -38,19 +38,24 @@ std::int32_t ListView::columnIndex(std::string_view key) const {
 }
 
 ListItem& ListView::add(std::string key, std::string text) {
-    if (m_byKey.contains(key))
-        throw DuplicateKeyError("The list \"" + name() + "\" has a row with the key \"" + key +
-                                "\" already.");
     auto row = std::make_unique<ListItem>(*this, std::move(key), std::move(text));
     ListItem& item = *row;
+    // One look-up for both the duplicate check and the insertion.
+    if (!m_byKey.try_emplace(item.m_key, &item).second)
+        throw DuplicateKeyError("The list \"" + name() + "\" has a row with the key \"" +
+                                item.m_key + "\" already.");
     const std::size_t place = m_sorted ? sortedPlace(item) : m_rows.size();
-    m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(place), std::move(row));
+    try {
+        m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(place), std::move(row));
+    } catch (...) {
+        m_byKey.erase(item.m_key);
+        throw;
+    }
     item.m_position = static_cast<std::int32_t>(place);
     if (place + 1 == m_rows.size() && m_numberedUpTo == place)
         m_numberedUpTo = m_rows.size();
     else
         m_numberedUpTo = std::min(m_numberedUpTo, place);
-    m_byKey.emplace(item.m_key, &item);
     emitRows(ListChange::Kind::Inserted, static_cast<std::int32_t>(place));
     return item;
 }
