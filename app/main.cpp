@@ -18,10 +18,28 @@
 namespace {
 
 // Exit codes: 0 done, 1 a mistake on the command line, 2 the database or table cannot be used,
-// 3 a screenshot could not be written.
+// 3 a screenshot could not be written, 4 a window was asked for and there is no display.
 constexpr int kUsageError = 1;
 constexpr int kDatabaseError = 2;
 constexpr int kScreenshotError = 3;
+constexpr int kNoDisplay = 4;
+
+bool hasDisplay() {
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+// What the command line asks for needs no window of its own: help, the version, screenshots.
+bool needsNoWindow(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        const QString argument = QString::fromLocal8Bit(argv[i]).section(QLatin1Char('='), 0, 0);
+        for (const char* option : {"-h", "--help", "-v", "--version", "--screenshot", "-screenshot",
+                                   "--screenshot-all", "-screenshot-all"})
+            if (argument == QLatin1String(option))
+                return true;
+    }
+    return false;
+}
 
 // Tells the person what went wrong: on stderr, and in a message box when there is a window to
 // show it in.
@@ -41,6 +59,17 @@ QString defaultDatabasePath() {
 } // namespace
 
 int main(int argc, char** argv) {
+    // Without a display Qt cannot start its usual platform: draw off screen what needs no window,
+    // and say what to do instead of failing inside Qt.
+    if (!hasDisplay()) {
+        if (!needsNoWindow(argc, argv)) {
+            QTextStream(stderr) << "morvel-designer: there is no display to show the window on. "
+                                   "Run it on a desktop, or write a picture of it with "
+                                   "--screenshot FILE.\n";
+            return kNoDisplay;
+        }
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Morvel"));
     QApplication::setApplicationName(QStringLiteral("morvel-designer"));

@@ -13,11 +13,11 @@ constexpr ComboBox::Style kDropDown = ComboBox::Style::DropDownList;
 constexpr ComboBox::Style kEditable = ComboBox::Style::Editable;
 
 // The panels' grid: a column of labels on the left, the boxes to the right of it reaching the
-// panel's right edge, one row every 390 twips.
-constexpr std::int32_t kRowPitch = 390;
-constexpr std::int32_t kBoxHeight = 345;
+// panel's right edge, one row every 360 twips.
+constexpr std::int32_t kRowPitch = 360;
+constexpr std::int32_t kBoxHeight = 330;
 constexpr std::int32_t kLabelWidth = 1440;
-constexpr std::int32_t kLabelOffset = 45;
+constexpr std::int32_t kLabelOffset = 38;
 constexpr std::int32_t kLabelHeight = 255;
 constexpr std::int32_t kBoxLeft = kLabelWidth + 120;
 // The general page has the most rows; every panel is as high as it.
