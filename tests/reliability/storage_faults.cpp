@@ -60,13 +60,6 @@ std::string integrityCheck(const std::filesystem::path& path) {
     return firstAnswer(path, "PRAGMA integrity_check");
 }
 
-void rollBackHotJournal(const std::filesystem::path& path) {
-    sqlite3* db = nullptr;
-    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK)
-        sqlite3_exec(db, "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
-    sqlite3_close(db);
-}
-
 std::int64_t pageCount(const std::filesystem::path& path) {
     return std::stoll(firstAnswer(path, "PRAGMA page_count"));
 }

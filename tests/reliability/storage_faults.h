@@ -14,9 +14,6 @@ std::string describe(const FieldDefs& fields);
 
 // SQLite's own verdict on the whole file ("ok" when sound), read through a read-only connection.
 std::string integrityCheck(const std::filesystem::path& path);
-// Opens the file for writing and reads from it, which makes SQLite roll back a journal that a
-// killed writer left behind.
-void rollBackHotJournal(const std::filesystem::path& path);
 // Pages of the file as SQLite counts them.
 std::int64_t pageCount(const std::filesystem::path& path);
 
