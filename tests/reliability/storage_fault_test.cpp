@@ -58,6 +58,18 @@ TEST(StorageFaults, KilledSavesLeaveTheOldOrTheNewDefinitionExactly) {
         database.save(table);
     }
     const std::string described[] = {describe(*first), describe(*second)};
+    // One open, load and save as the child makes them, timed here: the kills spread over a few of
+    // those, so that some land before a save commits and some after, in a fast build or a
+    // sanitized one alike.
+    const auto cycleStarted = std::chrono::steady_clock::now();
+    {
+        SchemaDatabase database(path);
+        TableDefinition table = database.load("Orders");
+        database.save(table);
+    }
+    const std::int64_t cycleMicroseconds = std::chrono::duration_cast<std::chrono::microseconds>(
+                                               std::chrono::steady_clock::now() - cycleStarted)
+                                               .count();
 
     std::mt19937_64 random(7);
     int found[2] = {0, 0};
@@ -69,7 +81,8 @@ TEST(StorageFaults, KilledSavesLeaveTheOldOrTheNewDefinitionExactly) {
         if (child == 0)
             saveForever(path, first, second);
         // Anywhere from the child's start-up to a few saves in.
-        usleep(static_cast<useconds_t>(std::uniform_int_distribution<int>(0, 60000)(random)));
+        usleep(static_cast<useconds_t>(
+            std::uniform_int_distribution<std::int64_t>(0, 3 * cycleMicroseconds)(random)));
         ::kill(child, SIGKILL);
         int status = 0;
         waitpid(child, &status, 0);
