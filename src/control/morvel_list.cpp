@@ -41,15 +41,21 @@ struct RowCells {
 
 void Morvel::FillList() {
     m_currentRow = nullptr;
-    lst.clear();
-    if (!moFieldDefs)
-        return;
-    const RowCells cells(lst);
-    for (const FieldDefPtr& field : *moFieldDefs) {
-        view::ListItem& row = lst.add(field->Name(), field->Name());
-        cells.fill(row, *field);
-        // Fields handed over with the collection; CanModifyExisting decides what they may change.
-        row.setTag(std::string(kNoModifyTag));
+    {
+        // The front end hears of the refill once, as a reset, not once per row and cell.
+        const view::ListView::Batch batch(lst);
+        lst.clear();
+        if (!moFieldDefs)
+            return;
+        lst.reserve(static_cast<std::size_t>(moFieldDefs->Count()));
+        const RowCells cells(lst);
+        for (const FieldDefPtr& field : *moFieldDefs) {
+            view::ListItem& row = lst.add(field->Name(), field->Name());
+            cells.fill(row, *field);
+            // Fields handed over with the collection; CanModifyExisting decides what they may
+            // change.
+            row.setTag(std::string(kNoModifyTag));
+        }
     }
     if (moFieldDefs->Count() != 0)
         lst.setSelectedItem(&lst.item(1));

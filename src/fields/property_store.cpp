@@ -1,44 +1,79 @@
 #include "fields/property_store.h"
 
-#include <unordered_map>
+#include <functional>
+#include <unordered_set>
 #include <utility>
 
 namespace morvel {
 
-struct PropertyStore::Entries {
-    std::list<ListEntry> list;
-    // Keys view the key strings of the entries, which list nodes keep in place.
-    std::unordered_map<std::string_view, std::list<ListEntry>::iterator> index;
+namespace {
+
+constexpr std::size_t kIndexedFrom = 12;
+
+// Positions in the entries, hashed and compared by the key of the entry there, so that the index
+// holds no copy of a key and can be searched with any string_view.
+struct PositionHash {
+    using is_transparent = void;
+    const std::vector<ListEntry>* entries;
+    // Not noexcept: the table then caches each hash, so a rehash never reads the entries again.
+    std::size_t operator()(std::string_view key) const {
+        return std::hash<std::string_view>()(key);
+    }
+    std::size_t operator()(std::size_t at) const { return (*this)((*entries)[at].Key); }
 };
 
-namespace {
-const std::list<ListEntry> kNoEntries;
-}
+struct PositionEqual {
+    using is_transparent = void;
+    const std::vector<ListEntry>* entries;
+    std::string_view keyOf(std::string_view key) const { return key; }
+    std::string_view keyOf(std::size_t at) const { return (*entries)[at].Key; }
+    template <typename A, typename B> bool operator()(const A& a, const B& b) const {
+        return keyOf(a) == keyOf(b);
+    }
+};
+
+} // namespace
+
+struct PropertyStore::Index {
+    explicit Index(const std::vector<ListEntry>& entries)
+        : positions(entries.size() * 2, PositionHash{&entries}, PositionEqual{&entries}) {}
+
+    std::unordered_set<std::size_t, PositionHash, PositionEqual> positions;
+    // Holes left by removals, by position.
+    std::vector<bool> removed;
+    std::size_t removedCount = 0;
+};
 
 PropertyStore::PropertyStore() = default;
 PropertyStore::~PropertyStore() = default;
 
 std::int32_t PropertyStore::Count() const {
-    return m_entries ? static_cast<std::int32_t>(m_entries->list.size()) : 0;
+    const std::size_t holes = m_index ? m_index->removedCount : 0;
+    return static_cast<std::int32_t>(m_entries.size() - holes);
 }
 
-PropertyStore::const_iterator PropertyStore::begin() const {
-    return m_entries ? m_entries->list.cbegin() : kNoEntries.cbegin();
+std::size_t PropertyStore::find(std::string_view key) const {
+    if (m_index) {
+        auto found = m_index->positions.find(key);
+        return found == m_index->positions.end() ? m_entries.size() : *found;
+    }
+    for (std::size_t at = 0; at < m_entries.size(); ++at)
+        if (m_entries[at].Key == key)
+            return at;
+    return m_entries.size();
 }
 
-PropertyStore::const_iterator PropertyStore::end() const {
-    return m_entries ? m_entries->list.cend() : kNoEntries.cend();
+std::size_t PropertyStore::nextLive(std::size_t at) const {
+    if (!m_index || m_index->removedCount == 0)
+        return at;
+    while (at < m_entries.size() && m_index->removed[at])
+        ++at;
+    return at;
 }
 
 bool PropertyStore::SetValue(std::string_view key, Value value, bool addIfMissing) {
-    if (!m_entries) {
-        if (!addIfMissing && !m_rewriting)
-            return false;
-        m_entries = std::make_unique<Entries>();
-    }
-    auto& index = m_entries->index;
-    if (auto found = index.find(key); found != index.end()) {
-        Value& stored = found->second->Value;
+    if (const std::size_t at = find(key); at != m_entries.size()) {
+        Value& stored = m_entries[at].Value;
         if (stored == value)
             return true;
         Value old = std::exchange(stored, std::move(value));
@@ -47,10 +82,16 @@ bool PropertyStore::SetValue(std::string_view key, Value value, bool addIfMissin
     }
     if (!addIfMissing && !m_rewriting)
         return false;
-    auto& list = m_entries->list;
-    auto entry = list.insert(list.end(), ListEntry{std::string(key), std::move(value)});
-    index.emplace(entry->Key, entry);
-    notify({StoreChange::Action::Added, entry->Key, Value(), entry->Value});
+    const std::size_t at = m_entries.size();
+    m_entries.push_back(ListEntry{std::string(key), std::move(value)});
+    if (m_index) {
+        m_index->removed.push_back(false);
+        m_index->positions.insert(at);
+    } else if (m_entries.size() >= kIndexedFrom) {
+        buildIndex();
+    }
+    const ListEntry& entry = m_entries[at];
+    notify({StoreChange::Action::Added, entry.Key, Value(), entry.Value});
     return true;
 }
 
@@ -61,32 +102,57 @@ Value PropertyStore::GetValue(std::string_view key, Value defaultValue) const {
 }
 
 const ListEntry* PropertyStore::Lookup(std::string_view key) const {
-    if (!m_entries)
-        return nullptr;
-    auto found = m_entries->index.find(key);
-    return found == m_entries->index.end() ? nullptr : &*found->second;
+    const std::size_t at = find(key);
+    return at == m_entries.size() ? nullptr : &m_entries[at];
 }
 
 void PropertyStore::Remove(std::string_view key) {
-    if (!m_entries)
+    const std::size_t at = find(key);
+    if (at == m_entries.size())
         return;
-    auto found = m_entries->index.find(key);
-    if (found == m_entries->index.end())
-        return;
-    auto entry = found->second;
-    m_entries->index.erase(found);
-    StoreChange change{StoreChange::Action::Removed, std::move(entry->Key), std::move(entry->Value),
+    // Out of the index while the entry still holds the key it was hashed by.
+    if (m_index)
+        m_index->positions.erase(at);
+    ListEntry& entry = m_entries[at];
+    StoreChange change{StoreChange::Action::Removed, std::move(entry.Key), std::move(entry.Value),
                        Value()};
-    m_entries->list.erase(entry);
+    if (m_index) {
+        m_index->removed[at] = true;
+        ++m_index->removedCount;
+        if (m_index->removedCount * 2 > m_entries.size())
+            compact();
+    } else {
+        m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(at));
+    }
     notify(std::move(change));
 }
 
 void PropertyStore::Clear() {
     m_rewriting = true;
-    if (!m_entries || m_entries->list.empty())
+    if (Count() == 0)
         return;
-    m_entries.reset();
+    m_index.reset();
+    m_entries = {};
     notify({StoreChange::Action::Cleared, {}, Value(), Value()});
+}
+
+void PropertyStore::buildIndex() {
+    m_index = std::make_unique<Index>(m_entries);
+    m_index->removed.assign(m_entries.size(), false);
+    for (std::size_t at = 0; at < m_entries.size(); ++at)
+        m_index->positions.insert(at);
+}
+
+void PropertyStore::compact() {
+    std::vector<ListEntry> kept;
+    kept.reserve(m_entries.size() - m_index->removedCount);
+    for (std::size_t at = 0; at < m_entries.size(); ++at)
+        if (!m_index->removed[at])
+            kept.push_back(std::move(m_entries[at]));
+    m_index.reset();
+    m_entries = std::move(kept);
+    if (m_entries.size() >= kIndexedFrom)
+        buildIndex();
 }
 
 void PropertyStore::notify(StoreChange change) const {

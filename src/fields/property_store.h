@@ -4,10 +4,12 @@
 #include "fields/store_change.h"
 #include "fields/value.h"
 
+#include <cstddef>
 #include <cstdint>
-#include <list>
+#include <iterator>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace morvel {
 
@@ -22,7 +24,38 @@ namespace morvel {
 // and a caller that only means to update existing keys cannot add stray ones by mistake.
 class PropertyStore {
 public:
-    using const_iterator = std::list<ListEntry>::const_iterator;
+    // Enumerates the entries in order, passing over the places of removed ones.
+    class const_iterator {
+    public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = ListEntry;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const ListEntry*;
+        using reference = const ListEntry&;
+
+        const_iterator() = default;
+        reference operator*() const { return m_store->m_entries[m_at]; }
+        pointer operator->() const { return &m_store->m_entries[m_at]; }
+        const_iterator& operator++() {
+            m_at = m_store->nextLive(m_at + 1);
+            return *this;
+        }
+        const_iterator operator++(int) {
+            const_iterator before = *this;
+            ++*this;
+            return before;
+        }
+        bool operator==(const const_iterator& other) const { return m_at == other.m_at; }
+
+    private:
+        friend class PropertyStore;
+        const_iterator(const PropertyStore& store, std::size_t at)
+            : m_store(&store)
+            , m_at(at) {}
+
+        const PropertyStore* m_store = nullptr;
+        std::size_t m_at = 0;
+    };
 
     PropertyStore();
     ~PropertyStore();
@@ -33,14 +66,15 @@ public:
     // Returns whether the value is now stored under key.
     bool SetValue(std::string_view key, Value value, bool addIfMissing);
     Value GetValue(std::string_view key, Value defaultValue) const;
+    // Valid until the next change of the store.
     const ListEntry* Lookup(std::string_view key) const;
     // Removing an absent key does nothing.
     void Remove(std::string_view key);
     void Clear();
     std::int32_t Count() const;
 
-    const_iterator begin() const;
-    const_iterator end() const;
+    const_iterator begin() const { return {*this, nextLive(0)}; }
+    const_iterator end() const { return {*this, m_entries.size()}; }
 
     bool rewriting() const { return m_rewriting; }
     void endRewrite() { m_rewriting = false; }
@@ -49,11 +83,22 @@ public:
     void setObserver(StoreObserver* observer) { m_observer = observer; }
 
 private:
-    void notify(StoreChange change) const;
+    struct Index;
 
-    // Most fields leave most of their three stores empty: the entries are made on the first write.
-    struct Entries;
-    std::unique_ptr<Entries> m_entries;
+    void notify(StoreChange change) const;
+    // The position of key in m_entries, or m_entries.size().
+    std::size_t find(std::string_view key) const;
+    // The first position from at on that holds an entry.
+    std::size_t nextLive(std::size_t at) const;
+    void buildIndex();
+    void compact();
+
+    // A store holds one or two entries for most fields: they sit in one small vector, in order,
+    // searched linearly. From kIndexedFrom entries on a hash index of their positions keeps
+    // look-ups O(1); removed entries then leave a hole (so that no position moves) until holes
+    // outnumber entries and the vector is compacted, which keeps removal O(1) amortised.
+    std::vector<ListEntry> m_entries;
+    std::unique_ptr<Index> m_index;
     StoreObserver* m_observer = nullptr;
     bool m_rewriting = false;
 };

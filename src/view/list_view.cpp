@@ -81,6 +81,18 @@ void ListView::clear() {
     emitRows(ListChange::Kind::Reset, -1, 0);
 }
 
+void ListView::reserve(std::size_t rows) {
+    m_rows.reserve(rows);
+    m_byKey.reserve(rows);
+}
+
+void ListView::endUpdate() {
+    if (m_updating == 0 || --m_updating != 0 || !m_heldBack)
+        return;
+    m_heldBack = false;
+    emitRows(ListChange::Kind::Reset, -1, 0);
+}
+
 ListItem* ListView::find(std::string_view key) const {
     auto found = m_byKey.find(key);
     return found == m_byKey.end() ? nullptr : found->second;
@@ -167,8 +179,11 @@ void ListView::rekey(ListItem& item, std::string key) {
 void ListView::cellChanged(const ListItem& item, std::int32_t column) {
     if (rowsChanged.empty())
         return;
-    ListChange change{ListChange::Kind::CellChanged, positionOf(item), column, 1};
-    rowsChanged.emit(change);
+    if (m_updating != 0) {
+        m_heldBack = true;
+        return;
+    }
+    emitChange({ListChange::Kind::CellChanged, positionOf(item), column, 1});
 }
 
 void ListView::renumber() const {
@@ -197,9 +212,16 @@ const std::string& ListView::sortText(const ListItem& item) const {
 }
 
 void ListView::emitRows(ListChange::Kind kind, std::int32_t row, std::int32_t count) {
+    emitChange({kind, row, -1, count});
+}
+
+void ListView::emitChange(const ListChange& change) {
     if (rowsChanged.empty())
         return;
-    ListChange change{kind, row, -1, count};
+    if (m_updating != 0) {
+        m_heldBack = true;
+        return;
+    }
     rowsChanged.emit(change);
 }
 

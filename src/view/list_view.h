@@ -59,6 +59,28 @@ public:
     // Removes the row with that key; throws NotFoundError when there is none.
     void remove(std::string_view key);
     void clear();
+    // Room for that many rows in the rows and the key index, so that a refill does not regrow.
+    void reserve(std::size_t rows);
+
+    // Between beginUpdate and the matching endUpdate (they nest) observers are told nothing; the
+    // outermost endUpdate then sends one Reset if anything changed, the selection included. A
+    // refill of many rows costs one notification instead of one per row and per cell.
+    void beginUpdate() { ++m_updating; }
+    void endUpdate();
+    // beginUpdate for a scope.
+    class Batch {
+    public:
+        explicit Batch(ListView& list)
+            : m_list(list) {
+            m_list.beginUpdate();
+        }
+        ~Batch() { m_list.endUpdate(); }
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        ListView& m_list;
+    };
 
     std::int32_t count() const { return static_cast<std::int32_t>(m_rows.size()); }
     // The row with that key, or null.
@@ -108,6 +130,7 @@ private:
     std::size_t sortedPlace(const ListItem& item) const;
     const std::string& sortText(const ListItem& item) const;
     void emitRows(ListChange::Kind kind, std::int32_t row, std::int32_t count = 1);
+    void emitChange(const ListChange& change);
 
     std::vector<ColumnHeader> m_columns;
     std::vector<std::unique_ptr<ListItem>> m_rows;
@@ -120,6 +143,9 @@ private:
     bool m_sorted = false;
     bool m_sortAscending = true;
     bool m_labelEditable = false;
+    // Nesting depth of beginUpdate, and whether a change was held back meanwhile.
+    std::int32_t m_updating = 0;
+    bool m_heldBack = false;
 };
 
 } // namespace morvel::view

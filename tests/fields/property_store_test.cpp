@@ -53,6 +53,39 @@ TEST(PropertyStore, KeepsFirstStoredOrderAcrossUpdateRemoveAndReAdd) {
     EXPECT_EQ(store.Count(), 3);
 }
 
+// Small stores are searched in order, large ones through an index with holes for removed
+// entries: order, look-ups and counts must not depend on which one a store is at the moment.
+TEST(PropertyStore, LargeStoresKeepOrderAndLookUpsThroughRemovalsAndCompaction) {
+    PropertyStore store;
+    Recorder recorder;
+    store.setObserver(&recorder);
+    std::string expected;
+    for (int i = 0; i < 40; ++i)
+        store.SetValue("k" + std::to_string(i), i, true);
+    for (int i = 0; i < 40; ++i)
+        if (i % 4 != 1)
+            store.Remove("k" + std::to_string(i)); // the index compacts on the way
+    store.SetValue("k0", "back", true);
+    store.SetValue("k5", "five", true);
+    for (int i = 1; i < 40; i += 4)
+        expected += "k" + std::to_string(i) + "=" + (i == 5 ? "five" : std::to_string(i)) + "|";
+    EXPECT_EQ(snapshot(store), expected + "k0=back");
+    EXPECT_EQ(store.Count(), 11);
+    EXPECT_EQ(store.Lookup("k2"), nullptr);
+    EXPECT_EQ(store.GetValue("k37", 0), Value(37));
+    EXPECT_EQ(recorder.seen.size(), 40u + 30u + 2u);
+    EXPECT_EQ(recorder.seen[69], "Removed k39 39>");
+    for (int i = 0; i < 20; ++i)
+        store.SetValue("m" + std::to_string(i), i, true);
+    store.Remove("k1");
+    EXPECT_EQ(store.Count(), 30);
+    EXPECT_EQ(store.Lookup("m19")->Value, Value(19));
+    store.Clear();
+    EXPECT_EQ(snapshot(store), "");
+    store.SetValue("m19", 1, false);
+    EXPECT_EQ(snapshot(store), "m19=1");
+}
+
 TEST(PropertyStore, AbsentKeysReadAsTheDefaultAndLookUpAsNothing) {
     PropertyStore store;
     store.SetValue("Encyrpt.Type", 2, true);

@@ -110,6 +110,25 @@ private slots:
         QCOMPARE(model().index(0, 1).data().toString(), QString("Link"));
     }
 
+    void aNewCollectionResetsTheListOnceAndShowsItsFirstRowSelected() {
+        clickRow("Colour");
+        QSignalSpy resets(&model(), &QAbstractItemModel::modelReset);
+        QSignalSpy inserted(&model(), &QAbstractItemModel::rowsInserted);
+        QSignalSpy cells(&model(), &QAbstractItemModel::dataChanged);
+        auto other = std::make_shared<FieldDefs>();
+        other->Add("Amount", 200);
+        other->Add("Supplier", 1000);
+        designer->setFieldDefs(other);
+        QCOMPARE(resets.count(), 1);
+        QCOMPARE(inserted.count(), 0);
+        QCOMPARE(cells.count(), 0);
+        QCOMPARE(model().rowCount(), 2);
+        QCOMPARE(model().index(1, 0).data().toString(), QString("Supplier"));
+        QCOMPARE(tree().currentIndex().row(), 0);
+        QVERIFY(tree().selectionModel()->isRowSelected(0, {}));
+        defs = other;
+    }
+
     void theListFollowsRemovalAndSelectsTheFirstRow() {
         auto& model = *tree().model();
         QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);

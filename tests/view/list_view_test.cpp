@@ -78,6 +78,32 @@ TEST_F(ListViewTest, ObserversHearWhichRowAndCellChanged) {
     EXPECT_THROW(b.setSubItem(2, "x"), NotFoundError) << "only one column beyond the text";
 }
 
+TEST_F(ListViewTest, ABatchIsToldAsOneResetAndOnlyWhenSomethingChanged) {
+    list.add("old", "old");
+    seen.clear();
+    {
+        const ListView::Batch outer(list);
+        {
+            const ListView::Batch inner(list);
+            list.clear();
+            list.reserve(2);
+        }
+        EXPECT_TRUE(seen.empty()) << "an inner batch ends nothing";
+        list.setSelectedItem(&list.add("a", "a"));
+        list.add("b", "b").setSubItem(1, "Text");
+    }
+    ASSERT_EQ(seen.size(), 1u);
+    EXPECT_EQ(seen[0].kind, ListChange::Kind::Reset);
+    EXPECT_EQ(keys(), "a@1 b@2 ");
+    EXPECT_EQ(list.selectedItem(), list.find("a"));
+    seen.clear();
+    { const ListView::Batch idle(list); }
+    EXPECT_TRUE(seen.empty());
+    list.item(2).setSubItem(1, "Date");
+    ASSERT_EQ(seen.size(), 1u) << "fine-grained again after the batch";
+    EXPECT_EQ(seen[0].kind, ListChange::Kind::CellChanged);
+}
+
 TEST_F(ListViewTest, RemovingTheSelectedRowClearsTheSelection) {
     ListItem& a = list.add("a", "a");
     list.setSelectedItem(&a);
