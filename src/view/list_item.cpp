@@ -3,7 +3,9 @@
 #include "fields/error.h"
 #include "view/list_view.h"
 
+#include <algorithm>
 #include <cstring>
+#include <functional>
 
 namespace morvel::view {
 
@@ -13,6 +15,8 @@ namespace {
 // kLongCell and four bytes.
 constexpr unsigned char kLongCell = 0xFF;
 constexpr std::size_t kLongHeader = 1 + sizeof(std::uint32_t);
+// The room a typical cell takes, length included, when a row grows.
+constexpr std::size_t kShortCell = 8;
 
 struct CellSpan {
     std::size_t at;
@@ -64,11 +68,11 @@ std::size_t writeHeader(char* header, std::size_t length) {
 
 } // namespace
 
-ListItem::ListItem(ListView& owner, std::string key, std::string text)
+ListItem::ListItem(ListView& owner, std::string_view key, std::string_view text)
     : m_owner(owner) {
     setCell(kTextCell, text);
     if (key != text)
-        m_ownKey = std::make_unique<std::string>(std::move(key));
+        m_ownKey = std::make_unique<std::string>(key);
 }
 
 ListItem::~ListItem() = default;
@@ -78,7 +82,7 @@ void ListItem::setKey(std::string key) {
         m_owner.rekey(*this, std::move(key));
 }
 
-void ListItem::setText(std::string text) {
+void ListItem::setText(std::string_view text) {
     if (text == this->text())
         return;
     keepKey();
@@ -92,7 +96,7 @@ std::string_view ListItem::subItem(std::int32_t index) const {
     return cell(static_cast<std::size_t>(index) - 1 + kFirstSubItemCell);
 }
 
-void ListItem::setSubItem(std::int32_t index, std::string text) {
+void ListItem::setSubItem(std::int32_t index, std::string_view text) {
     if (index < 1 || index >= m_owner.columnCount())
         throw NotFoundError("The list \"" + m_owner.name() + "\" has no sub item " +
                             std::to_string(index) + ".");
@@ -122,9 +126,22 @@ bool ListItem::setCell(std::size_t index, std::string_view text) {
     if (span.at == m_cells.size()) {
         if (text.empty())
             return false;
+        // Growing the buffer would free a cell the text views: copy it first.
+        std::string own;
+        if (std::less_equal<const char*>{}(m_cells.data(), text.data()) &&
+            std::less<const char*>{}(text.data(), m_cells.data() + m_cells.size())) {
+            own = text;
+            text = own;
+        }
         // Absent cells before this one become empty ones, a length byte each.
         const std::size_t missing = index - cellCount(m_cells);
-        m_cells.reserve(m_cells.size() + missing + headerSize + text.size());
+        const std::size_t needed = m_cells.size() + missing + headerSize + text.size();
+        // A row is usually filled cell by cell: leave room for a short cell in every column at
+        // the first growth, rather than reallocating the row two or three times while it fills.
+        if (needed > m_cells.capacity())
+            m_cells.reserve(
+                std::max(needed + kShortCell * static_cast<std::size_t>(m_owner.columnCount()),
+                         2 * m_cells.capacity()));
         m_cells.append(missing, '\0');
         m_cells.append(header, headerSize);
         m_cells.append(text);

@@ -15,10 +15,11 @@ class ListView;
 //
 // A list may hold 100,000 rows, so a row is packed: its text, tag and sub items sit one after the
 // other in one buffer, each behind its length, and the key is stored apart only while it differs
-// from the text. The views the getters return last until the row's next change.
+// from the text. The views the getters return last until the row's next change; the setters take
+// views, so that filling a row copies each text once, into the row.
 class ListItem {
 public:
-    ListItem(ListView& owner, std::string key, std::string text);
+    ListItem(ListView& owner, std::string_view key, std::string_view text);
     ListItem(const ListItem&) = delete;
     ListItem& operator=(const ListItem&) = delete;
     ~ListItem();
@@ -27,12 +28,12 @@ public:
     // Changes the row's key; throws DuplicateKeyError when another row has it.
     void setKey(std::string key);
     std::string_view text() const { return cell(kTextCell); }
-    void setText(std::string text);
+    void setText(std::string_view text);
     std::string_view tag() const { return cell(kTagCell); }
-    void setTag(std::string tag) { setCell(kTagCell, tag); }
+    void setTag(std::string_view tag) { setCell(kTagCell, tag); }
     // An absent sub item reads as "".
     std::string_view subItem(std::int32_t index) const;
-    void setSubItem(std::int32_t index, std::string text);
+    void setSubItem(std::int32_t index, std::string_view text);
 
     // 1-based position in the list.
     std::int32_t index() const;
@@ -47,7 +48,7 @@ private:
     static constexpr std::size_t kFirstSubItemCell = 2;
 
     std::string_view cell(std::size_t index) const;
-    // False when the cell had that text already.
+    // False when the cell had that text already. The text may be one of the row's own cells.
     bool setCell(std::size_t index, std::string_view text);
     // Keeps the key as it is while the text changes under it.
     void keepKey();

@@ -37,8 +37,8 @@ std::int32_t ListView::columnIndex(std::string_view key) const {
     throw NotFoundError("The list \"" + name() + "\" has no column \"" + std::string(key) + "\".");
 }
 
-ListItem& ListView::add(std::string key, std::string text) {
-    auto row = std::make_unique<ListItem>(*this, std::move(key), std::move(text));
+ListItem& ListView::add(std::string_view key, std::string_view text) {
+    auto row = std::make_unique<ListItem>(*this, key, text);
     ListItem& item = *row;
     // One look-up for both the duplicate check and the insertion.
     if (!m_byKey.insert(item))
@@ -160,7 +160,7 @@ bool ListView::editLabel(ListItem& item, std::string text) {
     AfterLabelEdit.emit(item, text, cancel);
     if (cancel)
         return false;
-    item.setText(std::move(text));
+    item.setText(text);
     return true;
 }
 

@@ -55,7 +55,7 @@ public:
     std::int32_t columnIndex(std::string_view key) const;
 
     // Adds a row at the end, or at its sorted place when the list is sorted.
-    ListItem& add(std::string key, std::string text);
+    ListItem& add(std::string_view key, std::string_view text);
     // Removes the row with that key; throws NotFoundError when there is none.
     void remove(std::string_view key);
     void clear();

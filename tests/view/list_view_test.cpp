@@ -92,6 +92,11 @@ TEST_F(ListViewTest, CellsOfAnyLengthReadBackWhateverOrderTheyAreWrittenIn) {
                   std::string(row.tag()),
               longText + "!|first|second|third|:NOMODIFY:");
     EXPECT_EQ(row.key(), "k");
+    // A row's own cell copied into another cell, across a growth of the row.
+    row.setSubItem(3, row.text());
+    row.setSubItem(2, row.subItem(3));
+    EXPECT_EQ(row.subItem(2), longText + "!");
+    EXPECT_EQ(row.subItem(3), longText + "!");
 }
 
 TEST_F(ListViewTest, EveryRowIsFoundByKeyAfterScatteredRemovalsAndReinsertions) {
