@@ -24,11 +24,11 @@ struct RowCells {
 
     void fill(view::ListItem& row, const FieldDef& field) const {
         row.setSubItem(displayName, field.DisplayName());
-        row.setSubItem(type, std::string(catalogue::typeName(field.FieldType())));
+        row.setSubItem(type, catalogue::typeName(field.FieldType()));
         // Only the text-like types have a size worth showing.
         if (catalogue::hasSize(field.FieldType()))
             row.setSubItem(size, std::to_string(field.Size()));
-        row.setSubItem(validation, std::string(catalogue::validationName(field.Validation())));
+        row.setSubItem(validation, catalogue::validationName(field.Validation()));
         row.setSubItem(ctrlReadOnly, field.CtrlReadOnly());
         row.setSubItem(ctrlEdit, field.CtrlEdit());
         row.setSubItem(ctrlList, field.CtrlList());
@@ -54,7 +54,7 @@ void Morvel::FillList() {
             cells.fill(row, *field);
             // Fields handed over with the collection; CanModifyExisting decides what they may
             // change.
-            row.setTag(std::string(kNoModifyTag));
+            row.setTag(kNoModifyTag);
         }
     }
     if (moFieldDefs->Count() != 0)

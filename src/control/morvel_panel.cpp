@@ -33,7 +33,7 @@ private:
 bool Morvel::mayModifyCurrentRow() const {
     if (m_canModifyExisting)
         return true;
-    return !(m_currentRow && m_currentRow->tag().find(kNoModifyTag) != std::string::npos);
+    return !(m_currentRow && m_currentRow->tag().find(kNoModifyTag) != std::string_view::npos);
 }
 
 void Morvel::LoadPanel() {

@@ -218,7 +218,7 @@ void frmEditList::inform(std::string prompt) {
 }
 
 void frmEditList::lstValues_ItemClick(view::ListItem& Item) {
-    lblValue.setCaption("Value: " + Item.subItem(1));
+    lblValue.setCaption("Value: " + std::string(Item.subItem(1)));
 }
 
 void frmEditList::lstValues_KeyDown(std::int32_t KeyCode, std::int32_t /*Shift*/) {
@@ -228,7 +228,7 @@ void frmEditList::lstValues_KeyDown(std::int32_t KeyCode, std::int32_t /*Shift*/
     if (!selected)
         return;
     // The largest value stays: a deleted value is not proposed again.
-    const std::string key = selected->key();
+    const std::string key(selected->key());
     lstValues.remove(key);
     lstValues.setSelectedItem(nullptr);
 }
@@ -244,7 +244,7 @@ void frmEditList::cmdOK_Click() {
     values.Clear();
     for (std::int32_t i = 1; i <= lstValues.count(); ++i) {
         const view::ListItem& item = lstValues.item(i);
-        values.SetValue(item.subItem(1), Value(item.text()), false);
+        values.SetValue(item.subItem(1), Value(std::string(item.text())), false);
     }
     target.CommitListValues();
     close();

@@ -302,14 +302,14 @@ void frmLocale::cmdDeleteLocale_Click() {
     view::ListItem* item = lstLocale.selectedItem();
     if (!item)
         return;
-    const view::MsgBoxResult answer =
-        m_prompter.messageBox({"Are you sure you want to remove the locale " + item->text(),
-                               view::MsgBoxButtons::YesNo, view::MsgBoxIcon::Information, ""});
+    const view::MsgBoxResult answer = m_prompter.messageBox(
+        {"Are you sure you want to remove the locale " + std::string(item->text()),
+         view::MsgBoxButtons::YesNo, view::MsgBoxIcon::Information, ""});
     if (answer != view::MsgBoxResult::Yes)
         return;
 
     const std::string n = localeOf(*item);
-    const std::string key = item->key();
+    const std::string key(item->key());
     lstLocale.remove(key);
     field().Locales().Remove("DN" + n);
     field().Locales().Remove("D" + n);
@@ -331,7 +331,7 @@ void frmLocale::AdjustColumnWidth(view::ListView& poListView, bool pAccountForHe
             pAccountForHeaders ? estimatedWidth(poListView.column(column).text) : 0;
         for (std::int32_t row = 1; row <= poListView.count(); ++row) {
             const view::ListItem& item = poListView.item(row);
-            const std::string& text = column == 1 ? item.text() : item.subItem(column - 1);
+            const std::string_view text = column == 1 ? item.text() : item.subItem(column - 1);
             width = std::max(width, estimatedWidth(text));
         }
         poListView.setColumnWidth(column, width);

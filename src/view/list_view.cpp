@@ -37,18 +37,18 @@ std::int32_t ListView::columnIndex(std::string_view key) const {
     throw NotFoundError("The list \"" + name() + "\" has no column \"" + std::string(key) + "\".");
 }
 
-ListItem& ListView::add(std::string key, std::string text) {
-    auto row = std::make_unique<ListItem>(*this, std::move(key), std::move(text));
+ListItem& ListView::add(std::string_view key, std::string_view text) {
+    auto row = std::make_unique<ListItem>(*this, key, text);
     ListItem& item = *row;
     // One look-up for both the duplicate check and the insertion.
-    if (!m_byKey.try_emplace(item.m_key, &item).second)
+    if (!m_byKey.insert(item))
         throw DuplicateKeyError("The list \"" + name() + "\" has a row with the key \"" +
-                                item.m_key + "\" already.");
+                                std::string(item.key()) + "\" already.");
     const std::size_t place = m_sorted ? sortedPlace(item) : m_rows.size();
     try {
         m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(place), std::move(row));
     } catch (...) {
-        m_byKey.erase(item.m_key);
+        m_byKey.erase(item);
         throw;
     }
     item.m_position = static_cast<std::int32_t>(place);
@@ -67,7 +67,7 @@ void ListView::remove(std::string_view key) {
         m_selected = nullptr;
         emitRows(ListChange::Kind::SelectionChanged, -1);
     }
-    m_byKey.erase(row.m_key);
+    m_byKey.erase(row);
     m_rows.erase(m_rows.begin() + position);
     m_numberedUpTo = std::min(m_numberedUpTo, static_cast<std::size_t>(position));
     emitRows(ListChange::Kind::Removed, position);
@@ -94,8 +94,7 @@ void ListView::endUpdate() {
 }
 
 ListItem* ListView::find(std::string_view key) const {
-    auto found = m_byKey.find(key);
-    return found == m_byKey.end() ? nullptr : found->second;
+    return m_byKey.find(key);
 }
 
 ListItem& ListView::item(std::string_view key) const {
@@ -161,19 +160,21 @@ bool ListView::editLabel(ListItem& item, std::string text) {
     AfterLabelEdit.emit(item, text, cancel);
     if (cancel)
         return false;
-    item.setText(std::move(text));
+    item.setText(text);
     return true;
 }
 
 void ListView::rekey(ListItem& item, std::string key) {
-    if (m_byKey.contains(key))
+    if (m_byKey.find(key))
         throw DuplicateKeyError("The list \"" + name() + "\" has a row with the key \"" + key +
                                 "\" already.");
-    // The index key views the row's own key: take the entry out before the key changes.
-    auto entry = m_byKey.extract(std::string_view(item.m_key));
-    item.m_key = std::move(key);
-    entry.key() = item.m_key;
-    m_byKey.insert(std::move(entry));
+    // The index hashes the row's own key: take the row out before the key changes.
+    m_byKey.erase(item);
+    if (key == item.text())
+        item.m_ownKey.reset();
+    else
+        item.m_ownKey = std::make_unique<std::string>(std::move(key));
+    m_byKey.insert(item);
 }
 
 void ListView::cellChanged(const ListItem& item, std::int32_t column) {
@@ -207,7 +208,7 @@ std::size_t ListView::sortedPlace(const ListItem& item) const {
     return static_cast<std::size_t>(place - m_rows.begin());
 }
 
-const std::string& ListView::sortText(const ListItem& item) const {
+std::string_view ListView::sortText(const ListItem& item) const {
     return m_sortKey == 0 ? item.text() : item.subItem(m_sortKey);
 }
 

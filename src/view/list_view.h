@@ -2,12 +2,12 @@
 
 #include "view/control.h"
 #include "view/list_item.h"
+#include "view/row_index.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace morvel::view {
@@ -55,7 +55,7 @@ public:
     std::int32_t columnIndex(std::string_view key) const;
 
     // Adds a row at the end, or at its sorted place when the list is sorted.
-    ListItem& add(std::string key, std::string text);
+    ListItem& add(std::string_view key, std::string_view text);
     // Removes the row with that key; throws NotFoundError when there is none.
     void remove(std::string_view key);
     void clear();
@@ -128,14 +128,13 @@ private:
     void renumber() const;
     std::int32_t positionOf(const ListItem& item) const;
     std::size_t sortedPlace(const ListItem& item) const;
-    const std::string& sortText(const ListItem& item) const;
+    std::string_view sortText(const ListItem& item) const;
     void emitRows(ListChange::Kind kind, std::int32_t row, std::int32_t count = 1);
     void emitChange(const ListChange& change);
 
     std::vector<ColumnHeader> m_columns;
     std::vector<std::unique_ptr<ListItem>> m_rows;
-    // Keys view the key strings held by the rows.
-    std::unordered_map<std::string_view, ListItem*> m_byKey;
+    RowIndex m_byKey;
     ListItem* m_selected = nullptr;
     // Rows before this 0-based position carry their right position.
     mutable std::size_t m_numberedUpTo = 0;

@@ -25,7 +25,8 @@ TEST_F(AttributeEditing, NameLosesLeadingDigitsAndIsRenamedUntrimmedOnLeaving) {
 
     designer.txtName.type("BETA"); // taken, letter case aside: undone without a word
     designer.txtDisplayName.setFocus();
-    EXPECT_EQ(designer.txtName.text() + defs->Item(1)->Name() + designer.lst.item(1).key(),
+    EXPECT_EQ(designer.txtName.text() + defs->Item(1)->Name() +
+                  std::string(designer.lst.item(1).key()),
               " x x x");
     EXPECT_TRUE(prompter.prompts().empty());
 }

@@ -102,7 +102,7 @@ protected:
             const auto& row = lst.item(i);
             out += row.text();
             for (int c = 1; c < lst.columnCount(); ++c)
-                out += "|" + row.subItem(c);
+                out.append("|").append(row.subItem(c));
             out += "\n";
         }
         return out;

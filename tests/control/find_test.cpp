@@ -29,7 +29,7 @@ TEST_F(Find, AsksBeforeWrappingToTheTopAndGoesOnOnlyOnYes) {
     EXPECT_EQ(shown(), "Gamma");
     prompter.answer(view::MsgBoxResult::Yes);
     designer.cmdFindNext.click();
-    EXPECT_EQ(designer.lst.selectedItem()->text() + shown(), "PhotoPhoto");
+    EXPECT_EQ(std::string(designer.lst.selectedItem()->text()) + shown(), "PhotoPhoto");
 
     EXPECT_EQ(
         prompter.promptTexts(),

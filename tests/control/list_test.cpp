@@ -24,7 +24,8 @@ TEST_F(FieldList, RefillShowsEveryCellAndTagsEveryRowAsPreExisting) {
                               "Count|Long|||Not Required|||\n"
                               "Link|Sub Link|||Unknown|||\n"
                               "Ref|System Reference|||Not Required|||\n");
-    EXPECT_EQ(designer.lst.item(1).tag() + designer.lst.item(4).tag(), ":NOMODIFY::NOMODIFY:");
+    EXPECT_EQ(std::string(designer.lst.item(1).tag()) + std::string(designer.lst.item(4).tag()),
+              ":NOMODIFY::NOMODIFY:");
     EXPECT_TRUE(designer.lst.item(1).selected());
     EXPECT_EQ(designer.SelectedFieldDef(), code);
 }
@@ -34,7 +35,7 @@ TEST_F(FieldList, AddedFieldGetsAnUntaggedRowAndItsNameReadyToBeTypedOver) {
     auto added = defs->Add("NewField", 8);
     const auto& row = designer.lst.item("NewField");
     EXPECT_EQ(row.tag(), "");
-    EXPECT_EQ(row.subItem(1) + "|" + row.subItem(2), "VarChar|0");
+    EXPECT_EQ(std::string(row.subItem(1)) + "|" + std::string(row.subItem(2)), "VarChar|0");
     EXPECT_TRUE(row.selected());
     EXPECT_EQ(designer.SelectedFieldDef(), added);
     EXPECT_TRUE(designer.txtName.hasFocus());

@@ -16,7 +16,8 @@ protected:
     }
     void changeType(int code) { selectByData(designer.cboType, code); }
     std::string cell(const char* column) const {
-        return designer.lst.selectedItem()->subItem(designer.lst.columnIndex(column) - 1);
+        return std::string(
+            designer.lst.selectedItem()->subItem(designer.lst.columnIndex(column) - 1));
     }
 };
 

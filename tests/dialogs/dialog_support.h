@@ -20,9 +20,9 @@ inline std::string storeText(const PropertyStore& store) {
 inline std::string rowsText(const view::ListView& list) {
     std::string text;
     for (std::int32_t i = 1; i <= list.count(); ++i) {
-        text += (text.empty() ? "" : "; ") + list.item(i).text();
+        text.append(text.empty() ? "" : "; ").append(list.item(i).text());
         for (std::int32_t sub = 1; sub < list.columnCount(); ++sub)
-            text += "|" + list.item(i).subItem(sub);
+            text.append("|").append(list.item(i).subItem(sub));
     }
     return text;
 }

@@ -249,7 +249,8 @@ void checkRows(Verdict& verdict, const control::Morvel& designer, const FieldDef
     const std::int32_t ctrlList = lst.columnIndex("CtrlList") - 1;
     for (std::int32_t i = 1; i <= lst.count() && verdict.ok(); ++i) {
         const view::ListItem& row = lst.item(i);
-        const std::string where = "row " + std::to_string(i) + " \"" + row.key() + "\"";
+        const std::string where =
+            "row " + std::to_string(i) + " \"" + std::string(row.key()) + "\"";
         verdict.equal(row.text(), row.key(), where + " text");
         const auto field = fields ? fields->find(row.key()) : nullptr;
         verdict.require(field && field->Name() == row.key(), where + " is a field's name");
@@ -264,7 +265,7 @@ void checkRows(Verdict& verdict, const control::Morvel& designer, const FieldDef
         verdict.equal(row.subItem(ctrlList), field->CtrlList(), where + " list ctrl");
         // The size cell shows what was typed, which converts to the stored size. Other types show
         // none, unless typed into: the size box stays visible after a field with a size.
-        const std::string& sizeCell = row.subItem(size);
+        const std::string sizeCell(row.subItem(size));
         if (catalogue::hasSize(field->FieldType()) || !sizeCell.empty())
             verdict.equal(FieldUtility::ToLong(sizeCell), field->Size(), where + " size");
     }
@@ -321,10 +322,11 @@ std::optional<std::string> checkLocaleEditor(const dialogs::frmLocale& form, con
     for (std::int32_t i = 1; i <= list.count() && verdict.ok(); ++i) {
         const view::ListItem& row = list.item(i);
         const std::string n = std::to_string(FieldUtility::ToLong(row.key().substr(1)));
-        if (!blank.contains({row.key(), 1}))
+        const std::string key(row.key());
+        if (!blank.contains({key, 1}))
             verdict.equal(row.subItem(1), field.LocaleDisplayName(n),
                           "locale " + n + " display name");
-        if (!blank.contains({row.key(), 2}))
+        if (!blank.contains({key, 2}))
             verdict.equal(row.subItem(2), field.LocaleDescription(n),
                           "locale " + n + " description");
     }

@@ -154,7 +154,7 @@ Event DesignerSession::generate(RandomSource& random) {
         Event event{Kind::Find};
         std::string search = random.chance(0.5) ? random.word(3) : "";
         if (search.empty() && d.lst.count() > 0) {
-            const std::string& name = d.lst.item(random.between(1, d.lst.count())).text();
+            const std::string name(d.lst.item(random.between(1, d.lst.count())).text());
             search = name.substr(0, static_cast<std::size_t>(random.between(0, 3)));
         }
         if (random.chance(0.2))
@@ -508,7 +508,10 @@ std::optional<std::string> DesignerSession::runEditList(view::Form& form, const 
                 // What OK wrote: the rows, in the list's order after its re-sort.
                 written.emplace();
                 for (std::int32_t i = 1; i <= list.count(); ++i)
-                    *written += list.item(i).subItem(1) + "=" + list.item(i).text() + "; ";
+                    written->append(list.item(i).subItem(1))
+                        .append("=")
+                        .append(list.item(i).text())
+                        .append("; ");
             }
             break;
         case Event::Kind::DialogLabelEdit:
@@ -561,8 +564,8 @@ std::optional<std::string> DesignerSession::runEditLocales(view::Form& form, con
                 if (step.target == "cmdAddLocale") {
                     editor.cmdAddLocale.click();
                     if (const view::ListItem* added = list.selectedItem()) {
-                        blank.insert({added->key(), 1});
-                        blank.insert({added->key(), 2});
+                        blank.insert({std::string(added->key()), 1});
+                        blank.insert({std::string(added->key()), 2});
                     }
                 } else if (step.target == "cmdDeleteLocale")
                     editor.cmdDeleteLocale.click();
@@ -580,7 +583,8 @@ std::optional<std::string> DesignerSession::runEditLocales(view::Form& form, con
                     step.text != (step.target == "txtDisplayName" ? editor.txtDisplayName
                                                                   : editor.txtDescription)
                                      .text())
-                    blank.erase({selected->key(), step.target == "txtDisplayName" ? 1 : 2});
+                    blank.erase(
+                        {std::string(selected->key()), step.target == "txtDisplayName" ? 1 : 2});
                 if (step.target == "txtDisplayName")
                     editor.txtDisplayName.type(step.text);
                 else if (step.target == "txtDescription")

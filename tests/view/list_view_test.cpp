@@ -3,6 +3,7 @@
 #include "view/list_view.h"
 
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -19,7 +20,8 @@ protected:
     std::string keys() const {
         std::string out;
         for (int i = 1; i <= list.count(); ++i)
-            out += list.item(i).key() + "@" + std::to_string(list.item(i).index()) + " ";
+            out +=
+                std::string(list.item(i).key()) + "@" + std::to_string(list.item(i).index()) + " ";
         return out;
     }
 
@@ -58,6 +60,66 @@ TEST_F(ListViewTest, RekeyingARowKeepsTheIndexRightForShortAndLongKeys) {
     list.add("other", "other");
     EXPECT_THROW(row.setKey("other"), DuplicateKeyError);
     EXPECT_EQ(row.key(), "s");
+}
+
+TEST_F(ListViewTest, AKeyTakenFromTheTextStaysWhenTheTextChanges) {
+    ListItem& row = list.add("Name", "Name");
+    row.setText("Renamed");
+    EXPECT_EQ(row.key(), "Name");
+    EXPECT_EQ(list.find("Name"), &row);
+    EXPECT_EQ(list.find("Renamed"), nullptr);
+    row.setKey("Renamed");
+    row.setText("Again");
+    EXPECT_EQ(list.find("Renamed"), &row);
+    EXPECT_EQ(row.text(), "Again");
+}
+
+TEST_F(ListViewTest, CellsOfAnyLengthReadBackWhateverOrderTheyAreWrittenIn) {
+    ListView wide{&form, "wide"};
+    for (const char* key : {"A", "B", "C", "D"})
+        wide.addColumn(key, key, 100);
+    ListItem& row = wide.add("k", "text");
+    const std::string longText(300, 'x');
+    row.setSubItem(3, "third");
+    row.setTag(":NOMODIFY:");
+    row.setSubItem(1, longText);
+    EXPECT_EQ(row.subItem(2), "");
+    row.setSubItem(2, "second");
+    row.setText(longText + "!");
+    row.setSubItem(1, "first");
+    EXPECT_EQ(std::string(row.text()) + "|" + std::string(row.subItem(1)) + "|" +
+                  std::string(row.subItem(2)) + "|" + std::string(row.subItem(3)) + "|" +
+                  std::string(row.tag()),
+              longText + "!|first|second|third|:NOMODIFY:");
+    EXPECT_EQ(row.key(), "k");
+    // A row's own cell copied into another cell, across a growth of the row.
+    row.setSubItem(3, row.text());
+    row.setSubItem(2, row.subItem(3));
+    EXPECT_EQ(row.subItem(2), longText + "!");
+    EXPECT_EQ(row.subItem(3), longText + "!");
+}
+
+TEST_F(ListViewTest, EveryRowIsFoundByKeyAfterScatteredRemovalsAndReinsertions) {
+    constexpr int kRows = 3000;
+    const auto key = [](int i) { return "k" + std::to_string(i); };
+    for (int i = 0; i < kRows; ++i)
+        list.add(key(i), key(i));
+    std::set<int> removed;
+    for (int i = 0; i < kRows; i += 3)
+        removed.insert((i * 13) % kRows);
+    for (const int i : removed)
+        list.remove(key(i));
+    int found = 0;
+    for (int i = 0; i < kRows; ++i) {
+        ListItem* row = list.find(key(i));
+        ASSERT_EQ(row == nullptr, removed.contains(i)) << key(i);
+        found += row && row->key() == key(i) ? 1 : 0;
+    }
+    EXPECT_EQ(found, list.count());
+    for (const int i : removed)
+        list.add(key(i), key(i));
+    for (int i = 0; i < kRows; ++i)
+        ASSERT_NE(list.find(key(i)), nullptr) << key(i);
 }
 
 TEST_F(ListViewTest, ObserversHearWhichRowAndCellChanged) {
