@@ -9,13 +9,6 @@ namespace morvel::reliability {
 
 namespace {
 
-std::string describe(const PropertyStore& store) {
-    std::string text;
-    for (const ListEntry& entry : store)
-        text += entry.Key + "=" + kindName(entry.Value.kind()) + ":" + entry.Value.toText() + ";";
-    return text;
-}
-
 std::atomic<std::int64_t> g_pageLimit = 0;
 
 int applyPageLimit(sqlite3* db, char**, const sqlite3_api_routines*) {
@@ -43,18 +36,6 @@ std::string firstAnswer(const std::filesystem::path& path, const char* sql) {
 }
 
 } // namespace
-
-std::string describe(const FieldDefs& fields) {
-    std::string text;
-    for (const auto& f : fields)
-        text += f->Name() + "|" + f->Description() + "|" + f->DisplayName() + "|" +
-                std::to_string(f->FieldType()) + "|" + std::to_string(f->Size()) + "|" +
-                f->DefaultValue() + "|" + f->CtrlEdit() + "|" + f->CtrlReadOnly() + "|" +
-                f->CtrlList() + "|" + std::to_string(f->Validation()) + "|" +
-                (f->CreateOnDemand() ? "COD" : "") + "|P:" + describe(f->Properties()) +
-                "|L:" + describe(f->ListValues()) + "|T:" + describe(f->Locales()) + "\n";
-    return text;
-}
 
 std::string integrityCheck(const std::filesystem::path& path) {
     return firstAnswer(path, "PRAGMA integrity_check");

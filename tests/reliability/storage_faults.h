@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fields/field_defs.h"
+#include "support/describe_fields.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -8,9 +9,7 @@
 
 namespace morvel::reliability {
 
-// Every member and every stored value with its kind, field by field in order: two definitions
-// are the same exactly when their descriptions are.
-std::string describe(const FieldDefs& fields);
+using morvel::testing::describe;
 
 // SQLite's own verdict on the whole file ("ok" when sound), read through a read-only connection.
 std::string integrityCheck(const std::filesystem::path& path);

@@ -2,6 +2,7 @@
 #include "store/schema_database.h"
 #include "store/store_error.h"
 #include "store/temp_dir.h"
+#include "support/describe_fields.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -9,25 +10,7 @@
 namespace morvel {
 namespace {
 
-std::string describe(const PropertyStore& store) {
-    std::string text;
-    for (const ListEntry& entry : store)
-        text += entry.Key + "=" + kindName(entry.Value.kind()) + ":" + entry.Value.toText() + ";";
-    return text;
-}
-
-// Every member and every stored value with its kind, field by field in order.
-std::string describe(const FieldDefs& fields) {
-    std::string text;
-    for (const auto& f : fields)
-        text += f->Name() + "|" + f->Description() + "|" + f->DisplayName() + "|" +
-                std::to_string(f->FieldType()) + "|" + std::to_string(f->Size()) + "|" +
-                f->DefaultValue() + "|" + f->CtrlEdit() + "|" + f->CtrlReadOnly() + "|" +
-                f->CtrlList() + "|" + std::to_string(f->Validation()) + "|" +
-                (f->CreateOnDemand() ? "COD" : "") + "|P:" + describe(f->Properties()) +
-                "|L:" + describe(f->ListValues()) + "|T:" + describe(f->Locales()) + "\n";
-    return text;
-}
+using morvel::testing::describe;
 
 TableDefinition richTable() {
     TableDefinition table;
