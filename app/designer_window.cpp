@@ -1,6 +1,6 @@
 #include "designer_window.h"
 
-#include "fields/error.h"
+#include "base/error.h"
 #include "qt/error_boundary.h"
 #include "store/store_error.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fields/signal.h"
+#include "base/signal.h"
 #include "qt/morvel_widget.h"
 #include "settings_property_bag.h"
 #include "store/schema_database.h"

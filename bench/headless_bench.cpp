@@ -5,6 +5,8 @@
 #include "field_generator.h"
 #include "headless_world.h"
 #include "process_memory.h"
+#include "testing/scripted_modal_host.h"
+#include "testing/scripted_prompter.h"
 
 #include <benchmark/benchmark.h>
 #include <chrono>
@@ -200,8 +202,8 @@ void Headless_FindNextWorstCase(State& state) {
 void Headless_MemoryPerField(State& state) {
     const std::int32_t count = fieldCount(state);
     for (auto _ : state) {
-        view::ScriptedPrompter prompter;
-        view::ScriptedModalHost modalHost;
+        testkit::ScriptedPrompter prompter;
+        testkit::ScriptedModalHost modalHost;
         control::Morvel designer(prompter, modalHost);
         const ProcessMemory before = ProcessMemory::now();
         auto defs = makeFieldDefs(count);

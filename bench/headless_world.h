@@ -2,8 +2,9 @@
 
 #include "control/morvel.h"
 #include "fields/field_defs.h"
+#include "testing/scripted_modal_host.h"
+#include "testing/scripted_prompter.h"
 #include "view/modal_host.h"
-#include "view/scripted_prompter.h"
 
 #include <cstdint>
 #include <functional>
@@ -32,8 +33,8 @@ struct HeadlessWorld {
     // the moment the designer's own work begins.
     std::function<void()> onNotified;
 
-    view::ScriptedPrompter prompter;
-    view::ScriptedModalHost modalHost;
+    testkit::ScriptedPrompter prompter;
+    testkit::ScriptedModalHost modalHost;
     control::Morvel designer;
     std::shared_ptr<FieldDefs> defs;
 

@@ -3,7 +3,7 @@
 // then load and search without any other kind of failure. The inputs are whole files: random
 // bytes, and mutations of valid databases from the seed corpus.
 
-#include "fields/error.h"
+#include "base/error.h"
 #include "fuzz_check.h"
 #include "store/schema_database.h"
 #include "store/store_error.h"

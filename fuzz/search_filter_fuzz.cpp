@@ -3,11 +3,11 @@
 // Input: the filter, then optionally a newline and the text that Find looks for; the first byte
 // also sets the search's maximum.
 
+#include "base/error.h"
+#include "base/text.h"
 #include "fields/database.h"
-#include "fields/error.h"
-#include "fields/in_memory_database.h"
-#include "fields/text.h"
 #include "fuzz_check.h"
+#include "testing/in_memory_database.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -37,7 +37,7 @@ void checkFilter(std::string_view filter, std::int32_t maximum) {
                 "an understood filter means the same as its plain form");
     }
 
-    morvel::InMemoryDatabase database;
+    morvel::testkit::InMemoryDatabase database;
     for (std::int32_t id = 1; id <= 6; ++id)
         database.addTable({id, "T" + std::to_string(id), "Table " + std::to_string(id), id % 3});
     const auto items = database.Search(filter, "", maximum);

@@ -1,9 +1,9 @@
 #include "control/morvel.h"
 
+#include "base/error.h"
+#include "base/handler_policy.h"
 #include "control/morvel_helpers.h"
-#include "fields/error.h"
 #include "fields/field_utility.h"
-#include "view/handler_policy.h"
 
 #include <functional>
 
@@ -110,7 +110,7 @@ void Morvel::leaveFocusedBox() {
         return;
     // The host's change goes ahead whatever the pending edit meets: an edit the library refuses
     // (an empty name, say) is dropped, as the panel is about to show another field.
-    view::skipFailingSteps([&] {
+    skipFailingSteps([&] {
         if (!lst.setFocus())
             clearFocus();
     });
@@ -170,7 +170,7 @@ void Morvel::setCurrent(FieldDefPtr field, view::ListItem* row) {
     if (field == m_currentField)
         return;
     m_currentField = std::move(field);
-    currentFieldChanged.emit(m_currentField);
+    currentFieldChanged.notify(m_currentField);
 }
 
 } // namespace morvel::control

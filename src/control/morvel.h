@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/signal.h"
 #include "control/morvel_controls.h"
 #include "control/property_bag.h"
 #include "fields/database.h"
 #include "fields/field_defs.h"
-#include "fields/signal.h"
 #include "view/form.h"
 #include "view/modal_host.h"
 #include "view/prompter.h"

@@ -1,8 +1,8 @@
+#include "base/handler_policy.h"
+#include "base/text.h"
 #include "catalogue/field_types.h"
 #include "control/morvel.h"
 #include "fields/field_utility.h"
-#include "fields/text.h"
-#include "view/handler_policy.h"
 
 namespace morvel::control {
 
@@ -71,20 +71,20 @@ void Morvel::txtDisplayName_Change() {
 void Morvel::txtDescription_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps([&] { currentField().SetDescription(txtDescription.text()); });
+    skipFailingSteps([&] { currentField().SetDescription(txtDescription.text()); });
 }
 
 void Morvel::txtDefault_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps([&] { currentField().SetDefaultValue(txtDefault.text()); });
+    skipFailingSteps([&] { currentField().SetDefaultValue(txtDefault.text()); });
 }
 
 void Morvel::txtCtrlEdit_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps([&] { setCell("CtrlEdit", txtCtrlEdit.text()); },
-                           [&] { currentField().SetCtrlEdit(txtCtrlEdit.text()); });
+    skipFailingSteps([&] { setCell("CtrlEdit", txtCtrlEdit.text()); },
+                     [&] { currentField().SetCtrlEdit(txtCtrlEdit.text()); });
 }
 
 // Picking a suggestion raises Click, not Change; leaving the box stores what it shows.
@@ -95,8 +95,8 @@ void Morvel::txtCtrlEdit_LostFocus() {
 void Morvel::txtCtrlReadOnly_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps([&] { setCell("CtrlReadOnly", txtCtrlReadOnly.text()); },
-                           [&] { currentField().SetCtrlReadOnly(txtCtrlReadOnly.text()); });
+    skipFailingSteps([&] { setCell("CtrlReadOnly", txtCtrlReadOnly.text()); },
+                     [&] { currentField().SetCtrlReadOnly(txtCtrlReadOnly.text()); });
 }
 
 void Morvel::txtCtrlReadOnly_LostFocus() {
@@ -106,8 +106,8 @@ void Morvel::txtCtrlReadOnly_LostFocus() {
 void Morvel::txtCtrlList_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps([&] { setCell("CtrlList", txtCtrlList.text()); },
-                           [&] { currentField().SetCtrlList(txtCtrlList.text()); });
+    skipFailingSteps([&] { setCell("CtrlList", txtCtrlList.text()); },
+                     [&] { currentField().SetCtrlList(txtCtrlList.text()); });
 }
 
 void Morvel::cboValidation_Click() {

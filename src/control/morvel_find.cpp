@@ -1,6 +1,6 @@
+#include "base/handler_policy.h"
+#include "base/text.h"
 #include "control/morvel.h"
-#include "fields/text.h"
-#include "view/handler_policy.h"
 
 namespace morvel::control {
 
@@ -37,7 +37,7 @@ void Morvel::cmdFind_Click() {
 // Searches below the selected row, then on request from the top down to just above it; the
 // selected row itself is never a hit. Any failure, no selection included, ends the search.
 void Morvel::cmdFindNext_Click() {
-    view::endQuietly([&] {
+    endQuietly([&] {
         const view::ListItem* selected = lst.selectedItem();
         if (!selected)
             return;

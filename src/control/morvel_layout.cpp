@@ -1,5 +1,5 @@
+#include "base/handler_policy.h"
 #include "control/morvel.h"
-#include "view/handler_policy.h"
 
 namespace morvel::control {
 
@@ -32,42 +32,42 @@ void Morvel::UserControl_Resize() {
     // Below the minimum the control grows instead; growing raises this handler again, and that
     // run lays out.
     if (width() < kMinimumWidth) {
-        view::skipFailingSteps([&] { setWidth(kMinimumWidth); });
+        skipFailingSteps([&] { setWidth(kMinimumWidth); });
         return;
     }
     if (height() < kMinimumHeight) {
-        view::skipFailingSteps([&] { setHeight(kMinimumHeight); });
+        skipFailingSteps([&] { setHeight(kMinimumHeight); });
         return;
     }
 
     const std::int32_t w = scaleWidth();
     const std::int32_t h = scaleHeight();
     const std::int32_t panelHeight = pic(1).height();
-    view::skipFailingSteps(
-        [&] { lst.move(0, 0, w, h - panelHeight - 720); },
-        [&] {
-            const std::int32_t listHeight = lst.height();
-            TabStrip.move(0, listHeight + kMargin, w, h - listHeight - kMargin);
-        },
-        [&] {
-            pic(1).move(kMargin, TabStrip.top() + kTabHeader, TabStrip.width() - 2 * kMargin,
-                        pic(1).height());
-        },
-        [&] { pic(2).move(kMargin, pic(1).top(), pic(1).width(), pic(2).height()); },
-        [&] { pic(3).move(kMargin, pic(1).top(), pic(1).width(), pic(3).height()); },
-        [&] { pic(4).move(kMargin, pic(1).top(), pic(1).width(), pic(4).height()); },
-        [&] { pic(5).move(kMargin, pic(1).top(), pic(1).width(), pic(5).height()); },
-        [&] { pic(6).move(kMargin, pic(1).top(), pic(1).width(), pic(6).height()); },
-        [&] { pic(7).move(kMargin, pic(1).top(), pic(1).width(), pic(7).height()); },
-        // The find buttons ride at the right end of the tab strip's header row.
-        [&] {
-            cmdFindNext.move(w - kMargin - cmdFindNext.width(), TabStrip.top() + kButtonGap,
-                             cmdFindNext.width(), cmdFindNext.height());
-        },
-        [&] {
-            cmdFind.move(cmdFindNext.left() - kButtonGap - cmdFind.width(), cmdFindNext.top(),
-                         cmdFind.width(), cmdFind.height());
-        });
+    skipFailingSteps([&] { lst.move(0, 0, w, h - panelHeight - 720); },
+                     [&] {
+                         const std::int32_t listHeight = lst.height();
+                         TabStrip.move(0, listHeight + kMargin, w, h - listHeight - kMargin);
+                     },
+                     [&] {
+                         pic(1).move(kMargin, TabStrip.top() + kTabHeader,
+                                     TabStrip.width() - 2 * kMargin, pic(1).height());
+                     },
+                     [&] { pic(2).move(kMargin, pic(1).top(), pic(1).width(), pic(2).height()); },
+                     [&] { pic(3).move(kMargin, pic(1).top(), pic(1).width(), pic(3).height()); },
+                     [&] { pic(4).move(kMargin, pic(1).top(), pic(1).width(), pic(4).height()); },
+                     [&] { pic(5).move(kMargin, pic(1).top(), pic(1).width(), pic(5).height()); },
+                     [&] { pic(6).move(kMargin, pic(1).top(), pic(1).width(), pic(6).height()); },
+                     [&] { pic(7).move(kMargin, pic(1).top(), pic(1).width(), pic(7).height()); },
+                     // The find buttons ride at the right end of the tab strip's header row.
+                     [&] {
+                         cmdFindNext.move(w - kMargin - cmdFindNext.width(),
+                                          TabStrip.top() + kButtonGap, cmdFindNext.width(),
+                                          cmdFindNext.height());
+                     },
+                     [&] {
+                         cmdFind.move(cmdFindNext.left() - kButtonGap - cmdFind.width(),
+                                      cmdFindNext.top(), cmdFind.width(), cmdFind.height());
+                     });
 }
 
 void Morvel::pic_Resize(std::int32_t Index) {

@@ -1,7 +1,7 @@
+#include "base/handler_policy.h"
 #include "catalogue/field_types.h"
 #include "control/morvel.h"
 #include "fields/field_utility.h"
-#include "view/handler_policy.h"
 
 #include <string_view>
 
@@ -52,7 +52,7 @@ void storeForDirectLink(FieldDef& field, std::string_view key, std::string text)
 void Morvel::txtTable_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps(
+    skipFailingSteps(
         [&] { storeByFamily(currentField(), "zrDirect.Table", "ADO.Table", txtTable.text()); });
 }
 
@@ -61,21 +61,21 @@ void Morvel::txtTable_Change() {
 void Morvel::txtIDField_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps(
+    skipFailingSteps(
         [&] { storeByFamily(currentField(), "zrDirect.ID", "ADO.ID", txtIDField.text()); });
 }
 
 void Morvel::txtDispField_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps(
+    skipFailingSteps(
         [&] { storeByFamily(currentField(), "zrDirect.Disp", "ADO.Disp", txtDispField.text()); });
 }
 
 void Morvel::txtSQL_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps(
+    skipFailingSteps(
         [&] { storeByFamily(currentField(), "zrDirect.Select", "ADO.Select", txtSQL.text()); });
 }
 
@@ -83,7 +83,7 @@ void Morvel::txtSQL_Change() {
 void Morvel::txtConnStr_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps([&] {
+    skipFailingSteps([&] {
         FieldDef& field = currentField();
         if (catalogue::isDirectoryType(field.FieldType()))
             storeText(field, "zrDirect.ConnStr", txtConnStr.text());
@@ -174,7 +174,7 @@ void Morvel::chkLinkParent_Click() {
 void Morvel::txtSubTable_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps([&] {
+    skipFailingSteps([&] {
         FieldDef& field = currentField();
         if (field.FieldType() == catalogue::type::SubTable)
             storeLong(field, "zrDirect.ST", numberIn(txtSubTable));
@@ -184,7 +184,7 @@ void Morvel::txtSubTable_Change() {
 void Morvel::txtSubTableFieldID_Change() {
     if (m_panelLoading)
         return;
-    view::skipFailingSteps([&] {
+    skipFailingSteps([&] {
         FieldDef& field = currentField();
         if (field.FieldType() == catalogue::type::SubTable)
             storeLong(field, "zrDirect.STF", numberIn(txtSubTableFieldID));

@@ -1,7 +1,7 @@
+#include "base/handler_policy.h"
 #include "catalogue/field_types.h"
 #include "catalogue/validation.h"
 #include "control/morvel.h"
-#include "view/handler_policy.h"
 
 #include <string>
 
@@ -94,22 +94,22 @@ void Morvel::moFieldDefs_AfterAdd(const FieldDefPtr& eoFieldDef) {
 }
 
 void Morvel::moFieldDefs_AfterRemove(const FieldDefPtr& eoFieldDef) {
-    view::skipFailingSteps([&] { leaveFocusedBox(); },
-                           [&] {
-                               view::ListItem& row = lst.item(eoFieldDef->Name());
-                               // The row goes away; nothing may point at it until the selection
-                               // routine runs.
-                               if (m_currentRow == &row)
-                                   m_currentRow = nullptr;
-                               lst.remove(eoFieldDef->Name());
-                           },
-                           [&] { lst.setSelectedItem(nullptr); },
-                           [&] { lst.setSelectedItem(&lst.item(1)); },
-                           [&] {
-                               if (view::ListItem* selected = lst.selectedItem())
-                                   lst.ensureVisible(*selected);
-                           },
-                           [&] { ShowSelectedRow(); });
+    skipFailingSteps([&] { leaveFocusedBox(); },
+                     [&] {
+                         view::ListItem& row = lst.item(eoFieldDef->Name());
+                         // The row goes away; nothing may point at it until the selection
+                         // routine runs.
+                         if (m_currentRow == &row)
+                             m_currentRow = nullptr;
+                         lst.remove(eoFieldDef->Name());
+                     },
+                     [&] { lst.setSelectedItem(nullptr); },
+                     [&] { lst.setSelectedItem(&lst.item(1)); },
+                     [&] {
+                         if (view::ListItem* selected = lst.selectedItem())
+                             lst.ensureVisible(*selected);
+                     },
+                     [&] { ShowSelectedRow(); });
 }
 
 void Morvel::lst_ItemClick(view::ListItem&) {

@@ -1,8 +1,8 @@
+#include "base/text.h"
 #include "catalogue/field_types.h"
 #include "control/morvel.h"
 #include "control/morvel_helpers.h"
 #include "fields/field_utility.h"
-#include "fields/text.h"
 
 #include <string>
 

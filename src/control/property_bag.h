@@ -17,16 +17,4 @@ public:
                                const Value& defaultValue) = 0;
 };
 
-// A property bag in memory, for tests and for hosts that persist it themselves.
-class MemoryPropertyBag : public PropertyBag {
-public:
-    Value ReadProperty(std::string_view name, const Value& defaultValue) const override;
-    void WriteProperty(std::string_view name, const Value& value,
-                       const Value& defaultValue) override;
-    const std::map<std::string, Value, std::less<>>& values() const { return m_values; }
-
-private:
-    std::map<std::string, Value, std::less<>> m_values;
-};
-
 } // namespace morvel::control

@@ -1,9 +1,9 @@
 #include "dialogs/frm_edit_list.h"
 
+#include "base/error.h"
+#include "base/handler_policy.h"
 #include "catalogue/field_types.h"
-#include "fields/error.h"
 #include "fields/field_utility.h"
-#include "view/handler_policy.h"
 
 #include <limits>
 #include <string>
@@ -196,20 +196,20 @@ std::optional<std::int32_t> frmEditList::askSpecificValue(std::int32_t proposed)
 
 void frmEditList::addNewItem(std::int32_t value) {
     view::ListItem* item = nullptr;
-    view::skipFailingSteps([&] { item = &lstValues.add(itemKey(value), "New Item"); },
-                           [&] {
-                               if (item)
-                                   item->setSubItem(1, std::to_string(value));
-                           },
-                           [&] { lstValues.setFocus(); },
-                           [&] {
-                               if (item)
-                                   lstValues.setSelectedItem(item);
-                           },
-                           [&] {
-                               if (item)
-                                   lstValues.startLabelEdit(*item);
-                           });
+    skipFailingSteps([&] { item = &lstValues.add(itemKey(value), "New Item"); },
+                     [&] {
+                         if (item)
+                             item->setSubItem(1, std::to_string(value));
+                     },
+                     [&] { lstValues.setFocus(); },
+                     [&] {
+                         if (item)
+                             lstValues.setSelectedItem(item);
+                     },
+                     [&] {
+                         if (item)
+                             lstValues.startLabelEdit(*item);
+                     });
 }
 
 void frmEditList::inform(std::string prompt) {
@@ -258,7 +258,7 @@ void frmEditList::cmdCancel_Click() {
 void frmEditList::Form_Resize() {
     const std::int32_t w = scaleWidth();
     const std::int32_t h = scaleHeight();
-    view::skipFailingSteps(
+    skipFailingSteps(
         [&] { lstValues.move(kMargin, kMargin, w - 2 * kMargin, h - 1080); },
         [&] { lblValue.setTop(h - 855); },
         [&] {

@@ -1,7 +1,7 @@
 #include "dialogs/frm_locale.h"
 
+#include "base/error.h"
 #include "catalogue/field_types.h"
-#include "fields/error.h"
 #include "fields/field_utility.h"
 
 #include <algorithm>

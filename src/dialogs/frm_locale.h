@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/signal.h"
 #include "fields/field_def.h"
-#include "fields/signal.h"
 #include "view/form.h"
 #include "view/list_view.h"
 #include "view/modal_host.h"

@@ -1,8 +1,7 @@
 #include "fields/database.h"
 
-#include "fields/error.h"
-#include "fields/in_memory_database.h"
-#include "fields/text.h"
+#include "base/error.h"
+#include "base/text.h"
 
 #include <charconv>
 
@@ -24,20 +23,6 @@ std::optional<std::int32_t> parseTableTypeFilter(std::string_view filter) {
         throw SearchFilterError("The table search does not understand the filter \"" +
                                 std::string(filter) + "\"; it takes \"TableType=<number>\".");
     return type;
-}
-
-std::vector<SearchItem> InMemoryDatabase::Search(std::string_view filter, std::string_view second,
-                                                 std::int32_t maximum) {
-    m_calls.push_back({std::string(filter), std::string(second), maximum});
-    const auto type = parseTableTypeFilter(filter);
-    std::vector<SearchItem> items;
-    for (const Table& table : m_tables) {
-        if (static_cast<std::int32_t>(items.size()) >= maximum)
-            break;
-        if (!type || table.tableType == *type)
-            items.push_back({table.displayName, Value(table.id), {table.name}});
-    }
-    return items;
 }
 
 } // namespace morvel

@@ -1,6 +1,6 @@
 #include "fields/field_def.h"
 
-#include "fields/error.h"
+#include "base/error.h"
 #include "fields/field_defs.h"
 
 namespace morvel {
@@ -124,9 +124,9 @@ void FieldDef::setNumber(std::int32_t& member, std::int32_t number, FieldMember 
 
 void FieldDef::notify(FieldChange change) {
     if (m_changed)
-        m_changed->emit(change);
+        m_changed->notify(change);
     if (m_collection)
-        m_collection->changed.emit(change);
+        m_collection->changed.notify(change);
 }
 
 const char* memberName(FieldMember member) {

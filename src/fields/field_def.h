@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/signal.h"
 #include "fields/field_change.h"
 #include "fields/property_store.h"
-#include "fields/signal.h"
 
 #include <cstdint>
 #include <memory>

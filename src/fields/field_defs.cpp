@@ -1,7 +1,7 @@
 #include "fields/field_defs.h"
 
-#include "fields/error.h"
-#include "fields/text.h"
+#include "base/error.h"
+#include "base/text.h"
 
 #include <algorithm>
 
@@ -70,7 +70,7 @@ FieldDefs::FieldPtr FieldDefs::Insert(std::int32_t position, FieldPtr field) {
     m_fields.insert(m_fields.begin() + (position - 1), field);
     m_byName.emplace(field->Name(), field);
     field->m_collection = this;
-    AfterAdd.emit(field);
+    AfterAdd.notify(field);
     return field;
 }
 
@@ -82,7 +82,7 @@ void FieldDefs::Remove(std::string_view name) {
     m_byName.erase(found);
     m_fields.erase(m_fields.begin() + (positionOf(*field) - 1));
     field->m_collection = nullptr;
-    AfterRemove.emit(field);
+    AfterRemove.notify(field);
 }
 
 void FieldDefs::checkName(const FieldDef& field, std::string_view name) const {

@@ -1,6 +1,6 @@
 #include "fields/value.h"
 
-#include "fields/error.h"
+#include "base/error.h"
 
 namespace morvel {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fields/signal.h"
+#include "base/signal.h"
 #include "qt/error_boundary.h"
 #include "view/control.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fields/signal.h"
+#include "base/signal.h"
 #include "qt/control_binder.h"
 #include "view/list_view.h"
 

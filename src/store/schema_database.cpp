@@ -1,6 +1,6 @@
 #include "store/schema_database.h"
 
-#include "fields/error.h"
+#include "base/error.h"
 #include "store/field_rows.h"
 #include "store/schema.h"
 #include "store/sqlite_connection.h"

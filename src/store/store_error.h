@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fields/error.h"
+#include "base/error.h"
 
 namespace morvel {
 

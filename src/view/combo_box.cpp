@@ -1,7 +1,7 @@
 #include "view/combo_box.h"
 
-#include "fields/error.h"
-#include "fields/text.h"
+#include "base/error.h"
+#include "base/text.h"
 
 #include <algorithm>
 
@@ -80,7 +80,7 @@ void ComboBox::setListIndex(std::int32_t index) {
     if (index == m_listIndex)
         return;
     selectIndex(index);
-    Click.emit();
+    Click.notify();
 }
 
 void ComboBox::selectIndex(std::int32_t index) {
@@ -116,7 +116,7 @@ void ComboBox::setText(std::string text) {
         notify(Property::ListIndex);
     }
     notify(Property::Text);
-    Change.emit();
+    Change.notify();
 }
 
 void ComboBox::setLocked(bool locked) {
@@ -133,7 +133,7 @@ bool ComboBox::pick(std::int32_t index) {
     setFocus();
     if (index != m_listIndex)
         selectIndex(index);
-    Click.emit();
+    Click.notify();
     return true;
 }
 

@@ -1,6 +1,6 @@
 #include "view/control.h"
 
-#include "fields/error.h"
+#include "base/error.h"
 #include "view/container.h"
 #include "view/form.h"
 
@@ -108,7 +108,7 @@ void Control::geometryChanged(const Rect&) {}
 
 void Container::geometryChanged(const Rect& old) {
     if (old.width != width() || old.height != height())
-        Resize.emit();
+        Resize.notify();
 }
 
 } // namespace morvel::view

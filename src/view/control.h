@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fields/signal.h"
+#include "base/signal.h"
 #include "view/geometry.h"
 
 #include <cstdint>
@@ -84,7 +84,7 @@ public:
     Signal<Property> changed;
 
 protected:
-    void notify(Property what) { changed.emit(what); }
+    void notify(Property what) { changed.notify(what); }
     virtual void geometryChanged(const Rect& old);
 
 private:

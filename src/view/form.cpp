@@ -31,13 +31,13 @@ bool Form::setFocusTo(Control& control) {
         return false;
     Control* previous = std::exchange(m_focused, &control);
     if (previous) {
-        previous->changed.emit(Property::Focus);
-        previous->LostFocus.emit();
+        previous->changed.notify(Property::Focus);
+        previous->LostFocus.notify();
     }
     // A LostFocus handler may have moved the focus on; only the winner gets GotFocus.
     if (m_focused == &control) {
-        control.changed.emit(Property::Focus);
-        control.GotFocus.emit();
+        control.changed.notify(Property::Focus);
+        control.GotFocus.notify();
     }
     return m_focused == &control;
 }
@@ -46,8 +46,8 @@ void Form::clearFocus() {
     Control* previous = std::exchange(m_focused, nullptr);
     if (!previous)
         return;
-    previous->changed.emit(Property::Focus);
-    previous->LostFocus.emit();
+    previous->changed.notify(Property::Focus);
+    previous->LostFocus.notify();
 }
 
 void Form::forget(const Control& control) {
@@ -63,7 +63,7 @@ void Form::close() {
     if (!m_open)
         return;
     m_open = false;
-    Closed.emit();
+    Closed.notify();
 }
 
 } // namespace morvel::view

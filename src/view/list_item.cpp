@@ -1,6 +1,6 @@
 #include "view/list_item.h"
 
-#include "fields/error.h"
+#include "base/error.h"
 #include "view/list_view.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "view/list_view.h"
 
-#include "fields/error.h"
-#include "fields/text.h"
+#include "base/error.h"
+#include "base/text.h"
 
 #include <algorithm>
 
@@ -143,21 +143,21 @@ bool ListView::clickItem(ListItem& item) {
         return false;
     setFocus();
     setSelectedItem(&item);
-    ItemClick.emit(item);
-    Click.emit();
+    ItemClick.notify(item);
+    Click.notify();
     return true;
 }
 
 bool ListView::keyDown(std::int32_t keyCode, std::int32_t shift) {
     if (!focusable())
         return false;
-    KeyDown.emit(keyCode, shift);
+    KeyDown.notify(keyCode, shift);
     return true;
 }
 
 bool ListView::editLabel(ListItem& item, std::string text) {
     bool cancel = false;
-    AfterLabelEdit.emit(item, text, cancel);
+    AfterLabelEdit.notify(item, text, cancel);
     if (cancel)
         return false;
     item.setText(text);
@@ -223,7 +223,7 @@ void ListView::emitChange(const ListChange& change) {
         m_heldBack = true;
         return;
     }
-    rowsChanged.emit(change);
+    rowsChanged.notify(change);
 }
 
 } // namespace morvel::view

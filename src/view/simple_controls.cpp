@@ -20,7 +20,7 @@ bool Button::click() {
     if (!focusable())
         return false;
     setFocus();
-    Click.emit();
+    Click.notify();
     return true;
 }
 
@@ -36,7 +36,7 @@ void CheckBox::setValue(std::int32_t value) {
         return;
     m_value = value;
     notify(Property::Value);
-    Click.emit();
+    Click.notify();
 }
 
 bool CheckBox::click() {

@@ -1,6 +1,6 @@
 #include "view/tab_strip.h"
 
-#include "fields/error.h"
+#include "base/error.h"
 
 namespace morvel::view {
 
@@ -42,7 +42,7 @@ void TabStrip::setSelectedIndex(std::int32_t index) {
         return;
     m_selected = index;
     notify(Property::Selection);
-    Click.emit();
+    Click.notify();
 }
 
 bool TabStrip::click(std::int32_t index) {
@@ -53,7 +53,7 @@ bool TabStrip::click(std::int32_t index) {
         m_selected = index;
         notify(Property::Selection);
     }
-    Click.emit();
+    Click.notify();
     return true;
 }
 

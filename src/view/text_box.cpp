@@ -11,7 +11,7 @@ void TextBox::setText(std::string text) {
     m_selStart = std::min(m_selStart, static_cast<std::int32_t>(m_text.size()));
     m_selLength = 0;
     notify(Property::Text);
-    Change.emit();
+    Change.notify();
 }
 
 bool TextBox::type(std::string text) {

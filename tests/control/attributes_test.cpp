@@ -1,5 +1,5 @@
+#include "base/error.h"
 #include "control/designer_fixture.h"
-#include "fields/error.h"
 
 namespace morvel::testing {
 namespace {

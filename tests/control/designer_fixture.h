@@ -2,12 +2,12 @@
 
 #include "control/morvel.h"
 #include "fields/field_defs.h"
-#include "fields/in_memory_database.h"
+#include "testing/in_memory_database.h"
+#include "testing/scripted_modal_host.h"
+#include "testing/scripted_prompter.h"
 #include "view/modal_host.h"
-#include "view/scripted_prompter.h"
 
 #include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <string_view>
@@ -18,7 +18,10 @@ namespace morvel::testing {
 // and an in-memory database that records every search.
 class DesignerTest : public ::testing::Test {
 protected:
-    DesignerTest() : designer(prompter, modalHost) { designer.move(0, 0, 12000, 9000); }
+    DesignerTest()
+        : designer(prompter, modalHost) {
+        designer.move(0, 0, 12000, 9000);
+    }
 
     // A collection with the given (name, type) fields, handed to the designer.
     std::shared_ptr<FieldDefs> give(std::initializer_list<std::pair<std::string, int>> fields) {
@@ -29,8 +32,8 @@ protected:
         return defs;
     }
 
-    std::shared_ptr<InMemoryDatabase> attachDatabase() {
-        auto db = std::make_shared<InMemoryDatabase>();
+    std::shared_ptr<testkit::InMemoryDatabase> attachDatabase() {
+        auto db = std::make_shared<testkit::InMemoryDatabase>();
         db->addTable({1, "Customers", "Customers", 2});
         db->addTable({2, "Products", "Product Catalogue", 2});
         db->addTable({3, "OrderLines", "Order Lines", 4});
@@ -108,8 +111,8 @@ protected:
         return out;
     }
 
-    view::ScriptedPrompter prompter;
-    view::ScriptedModalHost modalHost;
+    testkit::ScriptedPrompter prompter;
+    testkit::ScriptedModalHost modalHost;
     control::Morvel designer;
 };
 

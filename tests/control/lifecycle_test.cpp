@@ -1,5 +1,6 @@
 #include "control/designer_fixture.h"
 #include "control/property_bag.h"
+#include "testing/memory_property_bag.h"
 
 namespace morvel::testing {
 namespace {
@@ -31,7 +32,7 @@ TEST_F(Lifecycle, EmptyCollectionLeavesTheListEmptyAndThePanelClearedAndDisabled
 }
 
 TEST_F(Lifecycle, CanModifyExistingIsPersistedUnderCmeAndDefaultsToFalse) {
-    control::MemoryPropertyBag bag;
+    testkit::MemoryPropertyBag bag;
     designer.SetCanModifyExisting(true);
     designer.UserControl_ReadProperties(bag);
     EXPECT_FALSE(designer.CanModifyExisting()) << "a container that never saved gives False";

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "fields/property_store.h"
+#include "testing/scripted_prompter.h"
 #include "view/list_view.h"
-#include "view/scripted_prompter.h"
 
 #include <string>
 
@@ -28,7 +28,7 @@ inline std::string rowsText(const view::ListView& list) {
 }
 
 // The last prompt as "prompt|buttons|icon|title", an input box as "prompt|title|default".
-inline std::string lastPrompt(const view::ScriptedPrompter& prompter) {
+inline std::string lastPrompt(const testkit::ScriptedPrompter& prompter) {
     if (prompter.prompts().empty())
         return "(none)";
     if (const auto* box = std::get_if<view::InputBoxRequest>(&prompter.prompts().back()))

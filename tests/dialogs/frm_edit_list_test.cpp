@@ -1,5 +1,7 @@
 #include "dialogs/dialog_support.h"
 #include "dialogs/frm_edit_list.h"
+#include "testing/scripted_modal_host.h"
+#include "testing/scripted_prompter.h"
 #include "view/modal_host.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +39,7 @@ protected:
     }
     bool has(const char* key) const { return form.lstValues.find(key) != nullptr; }
 
-    view::ScriptedPrompter prompter;
+    testkit::ScriptedPrompter prompter;
     dialogs::frmEditList form{prompter};
     Connection watch;
     int writes = 0;
@@ -121,7 +123,7 @@ TEST_F(EditListTest, OnlyOkWritesTheListInDisplayTextOrderAndCommitsOnce) {
     field = open(1100, {{"1", "Red"}, {"2", "blue"}});
     form.cmdNew.click();
     form.lstValues.editLabel(*form.lstValues.selectedItem(), "Amber");
-    view::ScriptedModalHost host;
+    testkit::ScriptedModalHost host;
     host.setScript([&](view::Form&) { form.cmdOK.click(); });
     host.showModal(form);
     EXPECT_EQ(storeText(field->ListValues()), "3=Amber; 2=blue; 1=Red");

@@ -1,6 +1,8 @@
+#include "base/error.h"
 #include "dialogs/dialog_support.h"
 #include "dialogs/frm_locale.h"
-#include "fields/error.h"
+#include "testing/scripted_modal_host.h"
+#include "testing/scripted_prompter.h"
 #include "view/modal_host.h"
 
 #include <functional>
@@ -35,8 +37,8 @@ protected:
     }
     void click(const char* key) { form.lstLocale.clickItem(form.lstLocale.item(key)); }
 
-    view::ScriptedPrompter prompter;
-    view::ScriptedModalHost host;
+    testkit::ScriptedPrompter prompter;
+    testkit::ScriptedModalHost host;
     dialogs::frmLocale form{prompter, host};
     int writes = 0;
 };

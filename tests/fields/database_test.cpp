@@ -1,5 +1,5 @@
-#include "fields/error.h"
-#include "fields/in_memory_database.h"
+#include "base/error.h"
+#include "testing/in_memory_database.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ TEST(Database, ParsesTheTableTypeFilter) {
 }
 
 TEST(Database, InMemorySearchFiltersLimitsAndRecordsEachCall) {
-    InMemoryDatabase db;
+    testkit::InMemoryDatabase db;
     db.addTable({10, "Orders", "All orders", 2});
     db.addTable({11, "OrderLines", "Order lines", 4});
     db.addTable({12, "Customers", "Customers", 2});

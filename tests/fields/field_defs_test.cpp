@@ -1,4 +1,4 @@
-#include "fields/error.h"
+#include "base/error.h"
 #include "fields/field_defs.h"
 
 #include <gtest/gtest.h>

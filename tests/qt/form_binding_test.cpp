@@ -1,6 +1,6 @@
 // The binding against a small hand-built form: each person's action raises its event once, in
 // the model; the model's changes show in the widgets; failures are shown and survived.
-#include "fields/error.h"
+#include "base/error.h"
 #include "qt/form_binding.h"
 #include "qt/list_view_model.h"
 #include "view/combo_box.h"

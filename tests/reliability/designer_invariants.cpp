@@ -1,10 +1,10 @@
 #include "reliability/designer_invariants.h"
 
+#include "base/text.h"
 #include "catalogue/field_types.h"
 #include "catalogue/security.h"
 #include "catalogue/validation.h"
 #include "fields/field_utility.h"
-#include "fields/text.h"
 
 #include <algorithm>
 #include <span>

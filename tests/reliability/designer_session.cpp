@@ -1,11 +1,12 @@
 #include "reliability/designer_session.h"
 
+#include "base/error.h"
 #include "dialogs/frm_edit_list.h"
 #include "dialogs/frm_locale.h"
-#include "fields/error.h"
 #include "fields/field_utility.h"
 #include "reliability/designer_invariants.h"
 #include "reliability/random_collection.h"
+#include "testing/in_memory_database.h"
 
 #include <typeinfo>
 
@@ -83,7 +84,7 @@ std::string storeText(const PropertyStore& store) {
 } // namespace
 
 DesignerSession::DesignerSession()
-    : m_database(std::make_shared<InMemoryDatabase>())
+    : m_database(std::make_shared<testkit::InMemoryDatabase>())
     , m_designer(std::make_unique<control::Morvel>(m_prompter, m_modalHost)) {
     m_database->addTable({1, "Customers", "Customers", 2});
     m_database->addTable({2, "Products", "Product Catalogue", 2});

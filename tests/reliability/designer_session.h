@@ -1,11 +1,12 @@
 #pragma once
 
 #include "control/morvel.h"
-#include "fields/in_memory_database.h"
 #include "reliability/designer_event.h"
 #include "reliability/random_source.h"
+#include "testing/in_memory_database.h"
+#include "testing/scripted_modal_host.h"
+#include "testing/scripted_prompter.h"
 #include "view/modal_host.h"
-#include "view/scripted_prompter.h"
 
 #include <cstdint>
 #include <memory>
@@ -54,9 +55,9 @@ private:
     std::optional<std::string> checkWrites(const Event& event, const FieldDef* shown) const;
     void watchWrites();
 
-    view::ScriptedPrompter m_prompter;
-    view::ScriptedModalHost m_modalHost;
-    std::shared_ptr<InMemoryDatabase> m_database;
+    testkit::ScriptedPrompter m_prompter;
+    testkit::ScriptedModalHost m_modalHost;
+    std::shared_ptr<testkit::InMemoryDatabase> m_database;
     std::unique_ptr<control::Morvel> m_designer;
     std::shared_ptr<FieldDefs> m_fields;
     std::unordered_map<std::string, view::Control*> m_controls;

@@ -3,8 +3,9 @@
 
 #include "dialogs/frm_edit_list.h"
 #include "dialogs/frm_locale.h"
+#include "testing/scripted_modal_host.h"
+#include "testing/scripted_prompter.h"
 #include "view/modal_host.h"
-#include "view/scripted_prompter.h"
 
 #include <gtest/gtest.h>
 
@@ -14,8 +15,8 @@ namespace {
 // Found by the random run: the descriptions-only reading takes each key from its second
 // character on, which does not exist in an empty key.
 TEST(EditorFaults, LocaleEditorOpensLocalesWithAnEmptyKey) {
-    view::ScriptedPrompter prompter;
-    view::ScriptedModalHost host;
+    testkit::ScriptedPrompter prompter;
+    testkit::ScriptedModalHost host;
     auto field = std::make_shared<FieldDef>("Notes", 200);
     field->Locales().SetValue("", Value("stray"), true);
     dialogs::frmLocale form(prompter, host);
@@ -24,7 +25,7 @@ TEST(EditorFaults, LocaleEditorOpensLocalesWithAnEmptyKey) {
 }
 
 TEST(EditorFaults, ListValuesEditorOpensKeysThatAreNoNumbers) {
-    view::ScriptedPrompter prompter;
+    testkit::ScriptedPrompter prompter;
     auto field = std::make_shared<FieldDef>("Colour", 1100);
     for (const char* key : {"", "x", " 7", "99999999999"})
         field->ListValues().SetValue(key, Value(key), true);

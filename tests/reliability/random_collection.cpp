@@ -1,7 +1,7 @@
 #include "reliability/random_collection.h"
 
+#include "base/error.h"
 #include "catalogue/field_types.h"
-#include "fields/error.h"
 
 #include <array>
 #include <string_view>

@@ -8,8 +8,9 @@
 #include "store/sample_schema.h"
 #include "store/schema_database.h"
 #include "store/store_error.h"
+#include "testing/scripted_modal_host.h"
+#include "testing/scripted_prompter.h"
 #include "view/modal_host.h"
-#include "view/scripted_prompter.h"
 
 #include <chrono>
 #include <csignal>
@@ -123,8 +124,8 @@ struct Person {
 
     SchemaDatabase database;
     TableDefinition table;
-    view::ScriptedPrompter prompter;
-    view::ScriptedModalHost modalHost;
+    testkit::ScriptedPrompter prompter;
+    testkit::ScriptedModalHost modalHost;
     control::Morvel designer;
 };
 

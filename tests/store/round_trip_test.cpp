@@ -1,4 +1,4 @@
-#include "fields/error.h"
+#include "base/error.h"
 #include "store/schema_database.h"
 #include "store/store_error.h"
 #include "store/temp_dir.h"

@@ -1,4 +1,4 @@
-#include "fields/error.h"
+#include "base/error.h"
 #include "view/combo_box.h"
 #include "view/form.h"
 

@@ -1,4 +1,4 @@
-#include "fields/error.h"
+#include "base/error.h"
 #include "view/form.h"
 #include "view/list_view.h"
 

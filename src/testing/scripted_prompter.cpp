@@ -1,6 +1,8 @@
-#include "view/scripted_prompter.h"
+#include "testing/scripted_prompter.h"
 
-namespace morvel::view {
+namespace morvel::testkit {
+
+using view::MsgBoxButtons;
 
 MsgBoxResult ScriptedPrompter::messageBox(const MessageBoxRequest& request) {
     m_prompts.emplace_back(request);
@@ -51,4 +53,4 @@ void ScriptedPrompter::reset() {
     m_unanswered = 0;
 }
 
-} // namespace morvel::view
+} // namespace morvel::testkit

@@ -78,18 +78,18 @@ public:
         return Connection(std::weak_ptr<detail::SlotState>(slot));
     }
 
-    void emit(Args... args) {
+    // Calls every connected observer in connection order. An observer that throws ends the
+    // emission; the exception reaches the emitter and the signal stays usable.
+    void notify(Args... args) {
         if (m_slots.empty())
             return;
-        ++m_emitting;
+        EmittingScope scope(*this);
         const std::size_t count = m_slots.size();
         for (std::size_t i = 0; i < count; ++i) {
             std::shared_ptr<Slot> slot = m_slots[i];
             if (slot->connected)
                 slot->handler(args...);
         }
-        --m_emitting;
-        compactIfIdle();
     }
 
     bool empty() const { return m_slots.empty(); }
@@ -97,6 +97,25 @@ public:
 private:
     struct Slot : detail::SlotState {
         std::function<void(Args...)> handler;
+    };
+
+    // Counts a running emission and, when the outermost one ends (normally or by an exception),
+    // drops the observers that were disconnected during it.
+    class EmittingScope {
+    public:
+        explicit EmittingScope(Signal& signal)
+            : m_signal(signal) {
+            ++m_signal.m_emitting;
+        }
+        EmittingScope(const EmittingScope&) = delete;
+        EmittingScope& operator=(const EmittingScope&) = delete;
+        ~EmittingScope() {
+            --m_signal.m_emitting;
+            m_signal.compactIfIdle();
+        }
+
+    private:
+        Signal& m_signal;
     };
 
     void compactIfIdle() {

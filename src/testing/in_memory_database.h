@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace morvel {
+namespace morvel::testkit {
 
 // A Database held in memory, for tests and for hosts without a catalogue of their own. It keeps
 // every Search call it receives, so a test can tell how often and with what it was asked.
@@ -34,4 +34,4 @@ private:
     std::vector<Call> m_calls;
 };
 
-} // namespace morvel
+} // namespace morvel::testkit

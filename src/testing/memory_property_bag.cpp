@@ -1,6 +1,6 @@
-#include "control/property_bag.h"
+#include "testing/memory_property_bag.h"
 
-namespace morvel::control {
+namespace morvel::testkit {
 
 Value MemoryPropertyBag::ReadProperty(std::string_view name, const Value& defaultValue) const {
     auto found = m_values.find(name);
@@ -18,4 +18,4 @@ void MemoryPropertyBag::WriteProperty(std::string_view name, const Value& value,
     m_values.insert_or_assign(std::string(name), value);
 }
 
-} // namespace morvel::control
+} // namespace morvel::testkit

@@ -1,4 +1,4 @@
-#include "fields/text.h"
+#include "base/text.h"
 
 #include <algorithm>
 

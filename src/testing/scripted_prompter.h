@@ -1,5 +1,8 @@
 #pragma once
 
+// Test doubles live in morvel::testkit, not morvel::testing, so that they never hide
+// GoogleTest's ::testing inside a test written in namespace morvel.
+
 #include "view/prompter.h"
 
 #include <deque>
@@ -7,12 +10,16 @@
 #include <variant>
 #include <vector>
 
-namespace morvel::view {
+namespace morvel::testkit {
+
+using view::InputBoxRequest;
+using view::MessageBoxRequest;
+using view::MsgBoxResult;
 
 // A Prompter that answers from a queue and records every box it was asked to show, for tests and
 // for driving the designer without a screen. With the queue empty a message box answers its
 // safest button (No, Cancel or OK) and an input box is cancelled; unanswered() counts those.
-class ScriptedPrompter : public Prompter {
+class ScriptedPrompter : public view::Prompter {
 public:
     using Prompt = std::variant<MessageBoxRequest, InputBoxRequest>;
 
@@ -36,4 +43,4 @@ private:
     std::size_t m_unanswered = 0;
 };
 
-} // namespace morvel::view
+} // namespace morvel::testkit
