@@ -37,6 +37,10 @@ void Morvel::followCollection() {
         [this](const FieldChange& change) { followFieldChange(change); });
     m_collectionWiring += moFieldDefs->inserted.connect(
         [this](const FieldPlaced& placed) { followInsertion(placed); });
+    // A box that stores its text on leaving stores it while the collection is still whole, so
+    // that a typed name is checked against every name that still has a row.
+    m_collectionWiring +=
+        moFieldDefs->aboutToRemove.connect([this](const FieldPlaced&) { leaveFocusedBox(); });
     m_collectionWiring +=
         moFieldDefs->removed.connect([this](const FieldPlaced& placed) { followRemoval(placed); });
     m_collectionWiring +=

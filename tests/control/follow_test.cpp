@@ -100,6 +100,16 @@ TEST_F(Following, AClickAfterAHostRenameLoadsTheRenamedField) {
     EXPECT_EQ(designer.txtName.text(), "Gamma");
 }
 
+// Left after the removal, the box would rename the field to the removed one's name while that
+// one's row still held it, leaving a row whose key is not its text.
+TEST_F(Following, ANameTypedBeforeARemovalIsCheckedWhileTheRemovedFieldIsThere) {
+    defs->Add("D", 200);
+    designer.txtName.type("A");
+    defs->Remove("A");
+    EXPECT_EQ(defs->Item("D")->Name(), "D");
+    EXPECT_EQ(rows(), "B:Text:: C:Link:: D:Text::");
+}
+
 TEST_F(Following, ThePersonsOwnWritesAreNotEchoedAndEachActionIsOneStep) {
     designer.SetCanModifyExisting(true);
     clickRow("A");
