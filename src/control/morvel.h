@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/signal.h"
+#include "control/field_row_index.h"
 #include "control/morvel_controls.h"
 #include "control/property_bag.h"
 #include "fields/database.h"
@@ -12,7 +13,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <unordered_map>
 
 namespace morvel::control {
 
@@ -192,7 +192,7 @@ private:
     // Set while a wired handler runs: every write meanwhile is the control's own.
     bool m_ownAction = false;
     // The row of each field, by identity: the row key is the field's name, which others change.
-    std::unordered_map<FieldId, view::ListItem*> m_rowById;
+    FieldRowIndex m_rowById;
     std::string m_stepText;
     bool m_subTableListLoaded = false;
     bool m_linkTableListLoaded = false;

@@ -55,12 +55,11 @@ void Morvel::indexRows() {
     m_rowById.reserve(static_cast<std::size_t>(moFieldDefs->Count()));
     std::int32_t position = 0;
     for (const FieldDefPtr& field : *moFieldDefs)
-        m_rowById.emplace(field->id(), &lst.item(++position));
+        m_rowById.set(field->id(), lst.item(++position));
 }
 
 view::ListItem* Morvel::rowOf(const morvel::FieldDef& field) const {
-    auto found = m_rowById.find(field.id());
-    return found == m_rowById.end() ? nullptr : found->second;
+    return m_rowById.find(field.id());
 }
 
 bool Morvel::panelShows(const morvel::FieldDef& field, FieldMember member) const {
@@ -97,7 +96,7 @@ void Morvel::followInsertion(const FieldPlaced& placed) {
     view::ListItem* row = lst.find(placed.field->Name());
     if (!row)
         return;
-    m_rowById.insert_or_assign(placed.field->id(), row);
+    m_rowById.set(placed.field->id(), *row);
     if (row->index() == placed.position || placed.position > lst.count())
         return;
     lst.moveItem(*row, placed.position);
