@@ -35,7 +35,7 @@ Morvel::~Morvel() = default;
 
 void Morvel::wireEvents() {
     auto on = [this](Signal<>& event, void (Morvel::*handler)()) {
-        m_wiring += event.connect([this, handler] { (this->*handler)(); });
+        m_wiring += event.connect([this, handler] { runAsOwnAction(handler); });
     };
 
     on(lst.Click, &Morvel::lst_Click);
@@ -126,8 +126,10 @@ void Morvel::SetFieldDefs(FieldDefsPtr poFieldDefs) {
             [this](const FieldDefPtr& field) { moFieldDefs_AfterAdd(field); });
         m_collectionWiring += moFieldDefs->AfterRemove.connect(
             [this](const FieldDefPtr& field) { moFieldDefs_AfterRemove(field); });
+        followCollection();
     }
     FillList();
+    indexRows();
     ShowSelectedRow();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/signal.h"
+#include "control/field_row_index.h"
 #include "control/morvel_controls.h"
 #include "control/property_bag.h"
 #include "fields/database.h"
@@ -140,6 +141,21 @@ public:
 
 private:
     void wireEvents();
+    // Runs a wired handler as the person's action: its writes form one step of origin Person,
+    // and the control knows them for its own, so that it does not follow them back.
+    void runAsOwnAction(void (Morvel::*handler)());
+    // Following the library (morvel_follow.cpp): what others change shows in the rows and, for
+    // the current field, in the panel.
+    void followCollection();
+    void indexRows();
+    void followFieldChange(const FieldChange& change);
+    void followInsertion(const FieldPlaced& placed);
+    void followRemoval(const FieldPlaced& placed);
+    void followMove(const FieldMoved& moved);
+    view::ListItem* rowOf(const morvel::FieldDef& field) const;
+    // Whether the panel shows something of that field: it is current, or the current field's
+    // page lists it.
+    bool panelShows(const morvel::FieldDef& field, FieldMember member) const;
     // Leaves the focused box before the host shows another field, so that a box which stores its
     // text on LostFocus stores it into the field it was typed for.
     void leaveFocusedBox();
@@ -173,6 +189,11 @@ private:
     // Set while LoadPanel fills the panel: showing a field must not write to it, so the change
     // handlers of the boxes neither write to the field nor mirror into the row meanwhile.
     bool m_panelLoading = false;
+    // Set while a wired handler runs: every write meanwhile is the control's own.
+    bool m_ownAction = false;
+    // The row of each field, by identity: the row key is the field's name, which others change.
+    FieldRowIndex m_rowById;
+    std::string m_stepText;
     bool m_subTableListLoaded = false;
     bool m_linkTableListLoaded = false;
 };

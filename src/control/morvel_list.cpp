@@ -1,7 +1,6 @@
 #include "base/handler_policy.h"
-#include "catalogue/field_types.h"
-#include "catalogue/validation.h"
 #include "control/morvel.h"
+#include "control/row_cells.h"
 
 #include <string>
 
@@ -10,32 +9,6 @@ namespace morvel::control {
 namespace {
 
 constexpr std::string_view kNoModifyTag = ":NOMODIFY:";
-
-// The sub item of each column, looked up by key once per fill rather than once per cell.
-struct RowCells {
-    explicit RowCells(const view::ListView& list)
-        : type(list.columnIndex("Type") - 1)
-        , size(list.columnIndex("Size") - 1)
-        , displayName(list.columnIndex("DisplayName") - 1)
-        , validation(list.columnIndex("Validation") - 1)
-        , ctrlReadOnly(list.columnIndex("CtrlReadOnly") - 1)
-        , ctrlEdit(list.columnIndex("CtrlEdit") - 1)
-        , ctrlList(list.columnIndex("CtrlList") - 1) {}
-
-    void fill(view::ListItem& row, const FieldDef& field) const {
-        row.setSubItem(displayName, field.DisplayName());
-        row.setSubItem(type, catalogue::typeName(field.FieldType()));
-        // Only the text-like types have a size worth showing.
-        if (catalogue::hasSize(field.FieldType()))
-            row.setSubItem(size, std::to_string(field.Size()));
-        row.setSubItem(validation, catalogue::validationName(field.Validation()));
-        row.setSubItem(ctrlReadOnly, field.CtrlReadOnly());
-        row.setSubItem(ctrlEdit, field.CtrlEdit());
-        row.setSubItem(ctrlList, field.CtrlList());
-    }
-
-    std::int32_t type, size, displayName, validation, ctrlReadOnly, ctrlEdit, ctrlList;
-};
 
 } // namespace
 

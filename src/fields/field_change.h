@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fields/change_step.h"
 #include "fields/store_change.h"
 #include "fields/value.h"
 
@@ -30,7 +31,8 @@ enum class FieldMember : std::uint8_t {
 };
 
 // One change of one field: for a member its old and new value; for one of the three stores the
-// store's own change (key, old and new value). Enough for dirty tracking and for undo.
+// store's own change (key, old and new value); and the step it belongs to. Enough for dirty
+// tracking and for undo.
 struct FieldChange {
     FieldDef& field;
     FieldMember member;
@@ -38,6 +40,7 @@ struct FieldChange {
     std::string key;
     Value oldValue;
     Value newValue;
+    StepTag step = {};
 };
 
 const char* memberName(FieldMember member);

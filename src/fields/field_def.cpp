@@ -3,6 +3,8 @@
 #include "base/error.h"
 #include "fields/field_defs.h"
 
+#include <utility>
+
 namespace morvel {
 
 FieldDef::FieldDef(std::string name, std::int32_t fieldType)
@@ -93,6 +95,34 @@ void FieldDef::SetLocaleDisplayName(std::string_view locale, std::string text) {
     m_locales.SetValue(localeKey("DN", locale), Value(std::move(text)), true);
 }
 
+std::shared_ptr<FieldDef> FieldDef::Clone() const {
+    auto copy = std::make_shared<FieldDef>(m_name, m_fieldType);
+    copy->m_description = m_description;
+    copy->m_displayName = m_displayName;
+    copy->m_defaultValue = m_defaultValue;
+    copy->m_ctrlEdit = m_ctrlEdit;
+    copy->m_ctrlReadOnly = m_ctrlReadOnly;
+    copy->m_ctrlList = m_ctrlList;
+    copy->m_size = m_size;
+    copy->m_validation = m_validation;
+    copy->m_createOnDemand = m_createOnDemand;
+    // Nobody observes the copy yet, so filling its stores tells no one.
+    for (const auto& [from, to] :
+         {std::pair{&m_properties, &copy->m_properties},
+          std::pair{&m_listValues, &copy->m_listValues}, std::pair{&m_locales, &copy->m_locales}})
+        for (const ListEntry& entry : *from)
+            to->SetValue(entry.Key, entry.Value, true);
+    return copy;
+}
+
+void FieldDef::restoreId(FieldId id) {
+    if (m_collection)
+        throw InvalidOperationError("The field \"" + m_name +
+                                    "\" is in a collection: its identity cannot change.");
+    FieldId::reserve(id);
+    m_id = id;
+}
+
 Connection FieldDef::onChanged(std::function<void(const FieldChange&)> handler) {
     if (!m_changed)
         m_changed = std::make_unique<Signal<const FieldChange&>>();
@@ -123,6 +153,8 @@ void FieldDef::setNumber(std::int32_t& member, std::int32_t number, FieldMember 
 }
 
 void FieldDef::notify(FieldChange change) {
+    if (m_collection)
+        change.step = m_collection->stepTag();
     if (m_changed)
         m_changed->notify(change);
     if (m_collection)

@@ -2,6 +2,7 @@
 
 #include "base/signal.h"
 #include "fields/field_change.h"
+#include "fields/field_id.h"
 #include "fields/property_store.h"
 
 #include <cstdint>
@@ -67,6 +68,16 @@ public:
     bool CreateOnDemand() const { return m_createOnDemand; }
     void SetCreateOnDemand(bool flag);
 
+    // A new field with every member and every stored entry of this one (kinds and order kept),
+    // in no collection, with an identity of its own.
+    std::shared_ptr<FieldDef> Clone() const;
+
+    // Given when the field is made and kept for its life, through renames and moves.
+    FieldId id() const { return m_id; }
+    // For a load only: gives the field back the identity it was saved with. Refused
+    // (InvalidOperationError) while the field is in a collection, whose listeners know it by id.
+    void restoreId(FieldId id);
+
     // Observes this field alone; a collection's changed() observes all of its fields.
     [[nodiscard]] Connection onChanged(std::function<void(const FieldChange&)> handler);
 
@@ -95,6 +106,7 @@ private:
     std::int32_t m_size = 0;
     std::int32_t m_validation = 0;
     bool m_createOnDemand = false;
+    FieldId m_id = FieldId::fresh();
     FieldDefs* m_collection = nullptr;
     // Most fields are never observed one by one; the signal is made on the first connect.
     std::unique_ptr<Signal<const FieldChange&>> m_changed;

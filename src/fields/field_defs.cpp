@@ -67,10 +67,14 @@ FieldDefs::FieldPtr FieldDefs::Insert(std::int32_t position, FieldPtr field) {
     if (position < 1 || position > Count() + 1)
         throw NotFoundError("There is no position " + std::to_string(position) + " to add at.");
     checkName(*field, field->Name());
+    const StepTag step = stepTag();
     m_fields.insert(m_fields.begin() + (position - 1), field);
     m_byName.emplace(field->Name(), field);
     field->m_collection = this;
     AfterAdd.notify(field);
+    // An AfterAdd observer may have moved or removed it meanwhile.
+    if (const std::int32_t now = positionOf(*field); now != 0)
+        inserted.notify({field, now, step});
     return field;
 }
 
@@ -79,10 +83,77 @@ void FieldDefs::Remove(std::string_view name) {
     if (found == m_byName.end())
         throw NotFoundError("There is no field named \"" + std::string(name) + "\".");
     FieldPtr field = found->second;
-    m_byName.erase(found);
-    m_fields.erase(m_fields.begin() + (positionOf(*field) - 1));
+    const StepTag step = stepTag();
+    const std::int32_t position = positionOf(*field);
+    aboutToRemove.notify({field, position, step});
+    // An observer may have changed the collection: remove the field from where it is now.
+    const std::int32_t now = positionOf(*field);
+    if (now == 0)
+        return;
+    m_byName.erase(std::string_view(field->Name()));
+    m_fields.erase(m_fields.begin() + (now - 1));
     field->m_collection = nullptr;
     AfterRemove.notify(field);
+    removed.notify({field, now, step});
+}
+
+void FieldDefs::Move(std::int32_t from, std::int32_t to) {
+    const FieldPtr field = Item(from);
+    if (to < 1 || to > Count())
+        throw NotFoundError("There is no position " + std::to_string(to) + " to move to.");
+    if (from == to)
+        return;
+    const auto first = m_fields.begin();
+    if (from < to)
+        std::rotate(first + (from - 1), first + from, first + to);
+    else
+        std::rotate(first + (to - 1), first + (from - 1), first + from);
+    moved.notify({field, from, to, stepTag()});
+}
+
+FieldDefs::Step FieldDefs::beginStep(std::string_view text, ChangeOrigin origin) {
+    if (m_stepDepth++ == 0) {
+        ++m_lastSequence;
+        m_stepOrigin = origin;
+        m_stepText.assign(text);
+        stepBegan.notify({{m_lastSequence, m_stepOrigin}, m_stepText});
+    }
+    return Step(*this);
+}
+
+FieldDefs::Step::~Step() {
+    if (m_owner)
+        m_owner->endStep();
+}
+
+void FieldDefs::endStep() {
+    if (--m_stepDepth != 0)
+        return;
+    stepEnded.notify({{m_lastSequence, m_stepOrigin}, m_stepText});
+}
+
+StepTag FieldDefs::stepTag() {
+    if (m_stepDepth != 0)
+        return {m_lastSequence, m_stepOrigin};
+    return {++m_lastSequence, ChangeOrigin::Host};
+}
+
+const char* originName(ChangeOrigin origin) {
+    switch (origin) {
+    case ChangeOrigin::Person:
+        return "Person";
+    case ChangeOrigin::Host:
+        return "Host";
+    case ChangeOrigin::Undo:
+        return "Undo";
+    case ChangeOrigin::Redo:
+        return "Redo";
+    case ChangeOrigin::Merge:
+        return "Merge";
+    case ChangeOrigin::Paste:
+        return "Paste";
+    }
+    return "";
 }
 
 void FieldDefs::checkName(const FieldDef& field, std::string_view name) const {

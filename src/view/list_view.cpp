@@ -73,6 +73,28 @@ void ListView::remove(std::string_view key) {
     emitRows(ListChange::Kind::Removed, position);
 }
 
+void ListView::moveItem(ListItem& item, std::int32_t index) {
+    if (m_sorted)
+        throw InvalidOperationError("The list \"" + name() + "\" is sorted: its rows cannot move.");
+    if (index < 1 || index > count())
+        throw NotFoundError("The list \"" + name() + "\" has no row " + std::to_string(index) +
+                            ".");
+    const std::int32_t from = positionOf(item);
+    const std::int32_t to = index - 1;
+    if (from == to)
+        return;
+    const auto first = m_rows.begin();
+    if (from < to)
+        std::rotate(first + from, first + from + 1, first + to + 1);
+    else
+        std::rotate(first + to, first + from, first + from + 1);
+    m_numberedUpTo = std::min(m_numberedUpTo, static_cast<std::size_t>(std::min(from, to)));
+    emitRows(ListChange::Kind::Removed, from);
+    emitRows(ListChange::Kind::Inserted, to);
+    if (m_selected == &item)
+        emitRows(ListChange::Kind::SelectionChanged, to);
+}
+
 void ListView::clear() {
     m_selected = nullptr;
     m_byKey.clear();

@@ -58,6 +58,10 @@ public:
     ListItem& add(std::string_view key, std::string_view text);
     // Removes the row with that key; throws NotFoundError when there is none.
     void remove(std::string_view key);
+    // Moves the row to the 1-based position, told to observers as a removal and an insertion.
+    // Throws NotFoundError outside the list and InvalidOperationError for a sorted list, whose
+    // order is its sort's.
+    void moveItem(ListItem& item, std::int32_t index);
     void clear();
     // Room for that many rows in the rows and the key index, so that a refill does not regrow.
     void reserve(std::size_t rows);

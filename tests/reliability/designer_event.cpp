@@ -86,6 +86,14 @@ std::string describe(const Event& event) {
         return std::string("host sets CanModifyExisting ") + (event.number ? "True" : "False");
     case Kind::HostDatabase:
         return event.number ? "host attaches the database" : "host detaches the database";
+    case Kind::HostRename:
+        return "host renames " + (event.number2 ? std::string("the field shown") : "field " + n) +
+               " to " + quoted(event.text);
+    case Kind::HostWrite:
+        return "host writes to " + (event.number2 ? std::string("the field shown") : "field " + n) +
+               " the write of seed " + std::to_string(event.seed);
+    case Kind::HostMove:
+        return "host moves field " + n + " to " + n2;
     case Kind::DialogButton:
         return event.target + answersOf(event);
     case Kind::DialogClickRow:

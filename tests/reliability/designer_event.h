@@ -29,6 +29,9 @@ struct Event {
         HostReplace,   // seed, number: field count
         HostCanModify, // number: 0 or 1
         HostDatabase,  // number: 0 detaches, 1 attaches
+        HostRename,    // number: position; number2: 1 for the field shown; text: the new name
+        HostWrite,     // number: position; number2: 1 for the field shown; seed: the write
+        HostMove,      // number, number2: from and to
         // Steps inside the editors.
         DialogButton,    // target: button; answers for its boxes
         DialogClickRow,  // number

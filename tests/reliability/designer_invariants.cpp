@@ -254,6 +254,7 @@ void checkRows(Verdict& verdict, const control::Morvel& designer, const FieldDef
         verdict.equal(row.text(), row.key(), where + " text");
         const auto field = fields ? fields->find(row.key()) : nullptr;
         verdict.require(field && field->Name() == row.key(), where + " is a field's name");
+        verdict.require(field && fields->Item(i) == field, where + " stands in collection order");
         if (!verdict.ok())
             return;
         verdict.equal(row.subItem(type), catalogue::typeName(field->FieldType()), where + " type");

@@ -1,6 +1,7 @@
 #include "reliability/designer_session.h"
 
 #include "base/error.h"
+#include "base/handler_policy.h"
 #include "dialogs/frm_edit_list.h"
 #include "dialogs/frm_locale.h"
 #include "fields/field_utility.h"
@@ -149,6 +150,17 @@ Event DesignerSession::generate(RandomSource& random) {
         return Event{Kind::HostCanModify, "", "", random.between(0, 1)};
     if (roll < 77)
         return Event{Kind::HostDatabase, "", "", random.between(0, 1)};
+    // Others write to the fields between the person's events: the host, undo, a merge.
+    if (roll < 85)
+        return Event{Kind::HostRename, "", random.fieldName(), random.between(0, 100000),
+                     random.chance(0.5) ? 1 : 0};
+    if (roll < 115) {
+        Event event{Kind::HostWrite, "", "", random.between(0, 100000), random.chance(0.6) ? 1 : 0};
+        event.seed = random.next();
+        return event;
+    }
+    if (roll < 125)
+        return Event{Kind::HostMove, "", "", random.between(0, 100000), random.between(0, 100000)};
     if (roll < 200)
         return Event{Kind::ClickRow, "", "", random.between(0, 100000)};
     if (roll < 230) {
@@ -312,7 +324,9 @@ std::optional<std::string> DesignerSession::apply(const Event& event) {
                             !wellFormedLocales(*d.SelectedFieldDef());
     bool completed = false;
     const auto shownBefore = d.SelectedFieldDef();
+    const long unexpectedBefore = unexpectedFailureCount();
     m_written.clear();
+    m_hostWrite.reset();
     m_writtenOnLeave = 0;
     m_firstWrite.clear();
     try {
@@ -336,6 +350,8 @@ std::optional<std::string> DesignerSession::apply(const Event& event) {
     } catch (const std::exception& error) {
         return std::string("unexpected ") + typeid(error).name() + ": " + error.what();
     }
+    if (unexpectedFailureCount() != unexpectedBefore)
+        return std::string("a failure that is not the library's was passed over");
     markPending(event, completed);
     if (auto broken = checkWrites(event, shownBefore.get()))
         return broken;
@@ -365,6 +381,12 @@ void DesignerSession::markPending(const Event& event, bool completed) {
 
 void DesignerSession::watchWrites() {
     m_writeWatch = m_fields->changed.connect([this](const FieldChange& change) {
+        // The host's own write is told first (the watch is the first observer), before the
+        // designer hears of it.
+        if (m_hostWrite && !m_hostWrite->seen && &change.field == m_hostWrite->field) {
+            m_hostWrite->seen = true;
+            return;
+        }
         if (m_written.empty())
             m_firstWrite = std::string(memberName(change.member)) + " " + change.key + " = \"" +
                            change.newValue.toText() + "\"";
@@ -383,7 +405,8 @@ std::optional<std::string> DesignerSession::checkWrites(const Event& event,
     using Kind = Event::Kind;
     const bool byHost = event.kind == Kind::HostAdd || event.kind == Kind::HostRemove ||
                         event.kind == Kind::HostReplace || event.kind == Kind::HostCanModify ||
-                        event.kind == Kind::HostDatabase;
+                        event.kind == Kind::HostDatabase || event.kind == Kind::HostRename ||
+                        event.kind == Kind::HostWrite || event.kind == Kind::HostMove;
     // A host's change first leaves the focused box, so an edit that a box stores on leaving lands
     // in the field it was typed for, the one shown before the change; nothing else may be written.
     const bool onlyLeaving = m_writtenOnLeave == m_written.size();
@@ -474,6 +497,14 @@ std::optional<std::string> DesignerSession::run(const Event& event) {
         d.SetFieldDefs(m_fields);
         m_pending.clear();
         return std::nullopt;
+    case Kind::HostRename:
+    case Kind::HostWrite:
+        return runHostWrite(event);
+    case Kind::HostMove:
+        if (m_fields && m_fields->Count() > 0)
+            m_fields->Move(event.number % m_fields->Count() + 1,
+                           event.number2 % m_fields->Count() + 1);
+        return std::nullopt;
     case Kind::HostCanModify:
         d.SetCanModifyExisting(event.number != 0);
         return std::nullopt;
@@ -483,6 +514,41 @@ std::optional<std::string> DesignerSession::run(const Event& event) {
     default:
         return "a dialog step outside a dialog";
     }
+}
+
+std::shared_ptr<FieldDef> DesignerSession::hostTarget(const Event& event) const {
+    if (event.number2 != 0 && m_designer->SelectedFieldDef())
+        return m_designer->SelectedFieldDef();
+    if (!m_fields || m_fields->Count() == 0)
+        return nullptr;
+    return m_fields->Item(event.number % m_fields->Count() + 1);
+}
+
+// The designer follows the write, and writes nothing back; a write to what the panel shows
+// reloads it, so from then on the panel must show the stored values again.
+std::optional<std::string> DesignerSession::runHostWrite(const Event& event) {
+    const std::shared_ptr<FieldDef> field = hostTarget(event);
+    if (!field)
+        return std::nullopt;
+    FieldMember member = FieldMember::Name;
+    if (event.kind == Event::Kind::HostRename) {
+        // A name the collection refuses is the host's mistake, not the designer's.
+        const auto holder = m_fields->find(event.text);
+        if (event.text.empty() || (holder && holder != field))
+            return std::nullopt;
+        m_hostWrite = HostWriteWatch{field.get()};
+        field->SetName(event.text);
+    } else {
+        RandomSource random(event.seed);
+        m_hostWrite = HostWriteWatch{field.get()};
+        member = randomWrite(random, *field).member;
+    }
+    const bool changed = m_hostWrite->seen;
+    m_hostWrite.reset();
+    const bool shown = field == m_designer->SelectedFieldDef();
+    if (changed && shown && member != FieldMember::ListValues && member != FieldMember::Locales)
+        m_pending.clear();
+    return std::nullopt;
 }
 
 std::optional<std::string> DesignerSession::runEditList(view::Form& form, const Event& event) {

@@ -43,6 +43,9 @@ private:
     Event generateDialog(RandomSource& random, Event::Kind kind);
     Event typingEvent(RandomSource& random, const std::string& target);
     std::optional<std::string> run(const Event& event);
+    // The field a host event aims at: the one shown, or the one at the position; null for none.
+    std::shared_ptr<FieldDef> hostTarget(const Event& event) const;
+    std::optional<std::string> runHostWrite(const Event& event);
     void type(view::Control& control, const Event& event);
     void queueAnswers(const std::vector<std::string>& answers);
     std::optional<std::string> runEditList(view::Form& form, const Event& event);
@@ -67,6 +70,12 @@ private:
     // Every field that a write changed during the event being applied.
     Connection m_writeWatch;
     std::vector<const FieldDef*> m_written;
+    // The write a host event makes itself, which the watch does not count as the designer's.
+    struct HostWriteWatch {
+        const FieldDef* field;
+        bool seen = false;
+    };
+    std::optional<HostWriteWatch> m_hostWrite;
     std::size_t m_writtenOnLeave = 0;
     std::string m_firstWrite;
     std::uint64_t m_allowedErrors = 0;

@@ -100,6 +100,65 @@ std::shared_ptr<FieldDef> randomField(RandomSource& random) {
     return field;
 }
 
+FieldWrite randomWrite(RandomSource& random, FieldDef& field) {
+    const std::int32_t roll = random.between(0, 19);
+    const auto text = [&] { return random.text(); };
+    switch (roll) {
+    case 0:
+        field.SetDisplayName(text());
+        return {FieldMember::DisplayName};
+    case 1:
+        field.SetDescription(text());
+        return {FieldMember::Description};
+    case 2:
+        field.SetDefaultValue(text());
+        return {FieldMember::DefaultValue};
+    case 3:
+    case 4:
+        field.SetFieldType(randomTypeCode(random));
+        return {FieldMember::FieldType};
+    case 5:
+        field.SetSize(random.between(-2, 4000));
+        return {FieldMember::Size};
+    case 6:
+        field.SetValidation(random.between(0, 3));
+        return {FieldMember::Validation};
+    case 7:
+        field.SetCtrlEdit(random.chance(0.5) ? "TEXTBOX" : random.word(8));
+        return {FieldMember::CtrlEdit};
+    case 8:
+        field.SetCtrlReadOnly(random.word(8));
+        return {FieldMember::CtrlReadOnly};
+    case 9:
+        field.SetCtrlList(random.word(8));
+        return {FieldMember::CtrlList};
+    case 10:
+        field.SetCreateOnDemand(!field.CreateOnDemand());
+        return {FieldMember::CreateOnDemand};
+    case 11:
+    case 12: {
+        const std::string key(kPropertyKeys[random.index(kPropertyKeys.size())]);
+        field.Properties().Remove(key);
+        return {FieldMember::Properties, key};
+    }
+    case 17: {
+        const std::string key = std::to_string(std::int64_t{1} << random.between(0, 31));
+        field.ListValues().SetValue(key, Value(random.word(8)), true);
+        return {FieldMember::ListValues, key};
+    }
+    case 18: {
+        const std::string n = localeNumber(random);
+        field.SetLocaleDisplayName(n, text());
+        return {FieldMember::Locales, "DN" + n};
+    }
+    default: {
+        const std::string key(kPropertyKeys[random.index(kPropertyKeys.size())]);
+        field.Properties().SetValue(key, randomValue(random), true);
+        return {FieldMember::Properties, key};
+    }
+    }
+}
+
 std::shared_ptr<FieldDefs> randomCollection(std::uint64_t seed, std::int32_t count) {
     RandomSource random(seed);
     auto fields = std::make_shared<FieldDefs>();

@@ -4,6 +4,7 @@
 // MORVEL_RANDOM_EVENTS sets the events of the whole suite (shared among the seeds); by default a
 // million, and fewer in a sanitizer build, which runs the same code many times slower.
 
+#include "base/handler_policy.h"
 #include "reliability/designer_session.h"
 #include "reliability/event_shrinker.h"
 
@@ -57,6 +58,8 @@ TEST_P(RandomUse, KeepsEveryInvariantAndLosesNothing) {
                    << reproduction;
         }
     }
+    EXPECT_EQ(unexpectedFailureCount(), 0)
+        << "failures that are not the library's were passed over";
     const double seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
     std::cout << "seed " << seed << ": " << count << " events (" << session.dialogSteps()

@@ -122,6 +122,25 @@ TEST_F(ListViewTest, EveryRowIsFoundByKeyAfterScatteredRemovalsAndReinsertions) 
         ASSERT_NE(list.find(key(i)), nullptr) << key(i);
 }
 
+TEST_F(ListViewTest, AMovedRowIsToldAsRemovedAndInsertedAndKeepsPositionsRight) {
+    for (const char* key : {"a", "b", "c", "d"})
+        list.add(key, key);
+    list.setSelectedItem(list.find("a"));
+    seen.clear();
+    list.moveItem(*list.find("a"), 3);
+    EXPECT_EQ(keys(), "b@1 c@2 a@3 d@4 ");
+    list.moveItem(*list.find("d"), 1);
+    EXPECT_EQ(keys(), "d@1 b@2 c@3 a@4 ");
+    std::string told;
+    for (const ListChange& c : seen)
+        told += std::to_string(static_cast<int>(c.kind)) + ":" + std::to_string(c.row) + " ";
+    // Removed at 0, inserted at 2, the selection now at 2; then removed 3, inserted 0.
+    EXPECT_EQ(told, "2:0 1:2 4:2 2:3 1:0 ");
+    EXPECT_THROW(list.moveItem(*list.find("a"), 5), NotFoundError);
+    list.setSorted(true);
+    EXPECT_THROW(list.moveItem(*list.find("a"), 1), InvalidOperationError);
+}
+
 TEST_F(ListViewTest, ObserversHearWhichRowAndCellChanged) {
     list.add("a", "a");
     ListItem& b = list.add("b", "b");
