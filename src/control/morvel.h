@@ -15,6 +15,8 @@
 
 namespace morvel::control {
 
+struct SettingBox;
+
 // The field designer: a list of a table's fields and a tabbed property panel for the selected
 // one. Every edit is written at once into the FieldDef shown; the host decides when to save.
 //
@@ -140,6 +142,8 @@ public:
 
 private:
     void wireEvents();
+    // The handler, run unless the panel is being filled; how wireEvents guards writing handlers.
+    template <void (Morvel::*Handler)()> void unlessLoading();
     // Leaves the focused box before the host shows another field, so that a box which stores its
     // text on LostFocus stores it into the field it was typed for.
     void leaveFocusedBox();
@@ -156,6 +160,12 @@ private:
     std::string LoadTypePage(morvel::FieldDef& field);
     // Lock of the name, the type and (for pre-existing rows) the encryption settings.
     bool mayModifyCurrentRow() const;
+    // Stores what the box shows under the keys its rows in the setting table give for the current
+    // field's type; NoCurrentFieldError when there is no current field.
+    void writeBox(const view::Control& box);
+    // Fills the row's list if it has one, then shows the field's stored setting (or its read
+    // default) in the row's box.
+    void showSetting(const SettingBox& row, const morvel::FieldDef& field);
 
     view::Prompter& m_prompter;
     view::ModalHost& m_modalHost;
@@ -170,8 +180,8 @@ private:
     bool m_canModifyExisting = false;
     // Set only while SelectByItemData moves a combo selection.
     bool m_loading = false;
-    // Set while LoadPanel fills the panel: showing a field must not write to it, so the change
-    // handlers of the boxes neither write to the field nor mirror into the row meanwhile.
+    // Set while LoadPanel fills the panel: showing a field must not write to it, so the handlers
+    // that write are wired not to run meanwhile (see wireEvents).
     bool m_panelLoading = false;
     bool m_subTableListLoaded = false;
     bool m_linkTableListLoaded = false;

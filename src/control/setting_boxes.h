@@ -1,0 +1,91 @@
+#pragma once
+
+#include "control/morvel_controls.h"
+#include "fields/property_store.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace morvel::control {
+
+// One control of the designer, named by its member, so that a table can point at it before
+// there is a designer.
+class BoxRef {
+public:
+    constexpr BoxRef(view::TextBox MorvelControls::*box)
+        : m_box(box) {}
+    constexpr BoxRef(view::ComboBox MorvelControls::*box)
+        : m_box(box) {}
+    constexpr BoxRef(view::CheckBox MorvelControls::*box)
+        : m_box(box) {}
+
+    view::Control& in(MorvelControls& controls) const;
+    const view::Control& in(const MorvelControls& controls) const;
+    // The text of a text box or a combo box; "" for a check box.
+    std::string text(const MorvelControls& controls) const;
+    // Sets the text of a text box or a combo box, raising its events.
+    void setText(MorvelControls& controls, std::string text) const;
+
+    friend constexpr bool operator==(const BoxRef&, const BoxRef&) = default;
+
+private:
+    std::variant<view::TextBox MorvelControls::*, view::ComboBox MorvelControls::*,
+                 view::CheckBox MorvelControls::*>
+        m_box;
+};
+
+// How a box shows a stored setting, and what it writes back.
+enum class Shown : std::uint8_t {
+    Text,      // its text, stored as text
+    Number,    // its text, stored as a whole number
+    ItemData,  // the entry with the stored item data; no entry picked stores ""
+    EntryText, // the entry of the stored text, letter case ignored; stores the entry's text
+    Checked,   // checked when the stored value is True
+};
+
+// The event on which the box writes.
+enum class Commit : std::uint8_t { Change, LostFocus, Click };
+
+// The list that is filled before the box shows its setting.
+enum class Fill : std::uint8_t {
+    None,
+    SubTables,        // from the database, once per designer
+    LinkTables,       // from the database, once per designer
+    CipherKeyLengths, // for the cipher stored
+    HashKeyLengths,   // for the hash stored
+    LinkFields,       // the names of the collection's "Link" fields
+};
+
+// A box of a type page and the stored setting it shows and edits. A box that writes another key
+// than it shows, or serves several type families, has one row per family.
+struct SettingBox {
+    BoxRef box;
+    // The types whose page shows the box and for which it writes.
+    bool (*types)(std::int32_t code);
+    // The key written; "" writes nothing.
+    std::string_view key;
+    // The key the panel shows; "" when the box is not shown for these types.
+    std::string_view shownKey;
+    // What the box shows while shownKey is absent.
+    std::string_view readDefault;
+    Shown shown;
+    Commit commit;
+    // Writes whatever the current field's type is (the box does not test it).
+    bool anyType = false;
+    Fill fill = Fill::None;
+};
+
+// Every setting box, in the order the panel loads them.
+std::span<const SettingBox> settingBoxes();
+// The first row of that box; the table has one for every box it names.
+const SettingBox& settingOf(BoxRef box);
+
+// The value the row's box shows for the store: the shown key, or the read default.
+Value shownValue(const SettingBox& row, const PropertyStore& stored);
+std::string shownText(const SettingBox& row, const PropertyStore& stored);
+std::int32_t shownNumber(const SettingBox& row, const PropertyStore& stored);
+
+} // namespace morvel::control
