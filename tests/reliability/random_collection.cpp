@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "catalogue/field_types.h"
+#include "catalogue/property_keys.h"
 
 #include <array>
 #include <string_view>
@@ -12,14 +13,40 @@ namespace {
 
 // Every key the panel reads or the handlers write, so that loads meet stored values of every
 // kind and edits meet keys that exist already.
-constexpr std::array<std::string_view, 33> kPropertyKeys{
-    "Encyrpt.Type",   "Encyrpt.KeyLen", "Sign.Type",        "Sign.KeyLen",   "Sign.Flds",
-    "zrDirect.ST",    "zrDirect.STF",   "zrDirect.ConnStr", "ADO.ConnStr",   "ADO.Table",
-    "ADO.ID",         "ADO.IDField",    "ADO.Disp",         "ADO.DispField", "ADO.Select",
-    "ADO.SQL",        "SubLnk.Lnk",     "SubLnk.Tbl",       "SubLnk.PID",    "SubLnk.DN",
-    "SubLnk.OB",      "zrDirect.OT",    "zrDirect.Q",       "zrDirect.IQ",   "zrDirect.S",
-    "zrDirect.OB",    "zrDirect.Disp",  "zrDirect.Disp123", "zrDirect.ID",   "zrDirect.Select",
-    "zrDirect.Table", "Lnk.Parent",     "LDN1036"};
+using namespace catalogue;
+constexpr std::array<std::string_view, 33> kPropertyKeys{kEncryptType,
+                                                         kEncryptKeyLen,
+                                                         kSignType,
+                                                         kSignKeyLen,
+                                                         kSignFields,
+                                                         kDirectSubTable,
+                                                         kDirectSubTableField,
+                                                         kDirectConnStr,
+                                                         kAdoConnStr,
+                                                         kAdoTable,
+                                                         kAdoId,
+                                                         kAdoIdField,
+                                                         kAdoDisp,
+                                                         kAdoDispField,
+                                                         kAdoSelect,
+                                                         kAdoSql,
+                                                         kSubLinkField,
+                                                         kSubLinkTable,
+                                                         kSubLinkParentId,
+                                                         kSubLinkDisplayName,
+                                                         kSubLinkOrderBy,
+                                                         kDirectObjectType,
+                                                         kDirectCoreFilter,
+                                                         kDirectAdditionalFilter,
+                                                         kDirectStatus,
+                                                         kDirectOrderBy,
+                                                         kDirectDisp,
+                                                         kDirectDispCopy,
+                                                         kDirectId,
+                                                         kDirectSelect,
+                                                         kDirectTable,
+                                                         kLinkParent,
+                                                         "LDN1036"};
 
 Value randomValue(RandomSource& random) {
     switch (random.between(0, 5)) {
