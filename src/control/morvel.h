@@ -12,10 +12,13 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
+
+namespace morvel::catalogue {
+struct SettingBox;
+} // namespace morvel::catalogue
 
 namespace morvel::control {
-
-struct SettingBox;
 
 // The field designer: a list of a table's fields and a tabbed property panel for the selected
 // one. Every edit is written at once into the FieldDef shown; the host decides when to save.
@@ -135,6 +138,9 @@ public:
     void cboSignatureKeyLen_Click();
     void txtSignatureFields_LostFocus();
 
+    // The box of a row of catalogue::settingBoxes() (a reference into that table).
+    view::Control& settingControl(const catalogue::SettingBox& row) const;
+
     // Layout.
     void UserControl_Resize();
     void pic_Resize(std::int32_t Index);
@@ -165,7 +171,7 @@ private:
     void writeBox(const view::Control& box);
     // Fills the row's list if it has one, then shows the field's stored setting (or its read
     // default) in the row's box.
-    void showSetting(const SettingBox& row, const morvel::FieldDef& field);
+    void showSetting(const catalogue::SettingBox& row, const morvel::FieldDef& field);
 
     view::Prompter& m_prompter;
     view::ModalHost& m_modalHost;
@@ -183,6 +189,8 @@ private:
     // Set while LoadPanel fills the panel: showing a field must not write to it, so the handlers
     // that write are wired not to run meanwhile (see wireEvents).
     bool m_panelLoading = false;
+    // The controls of the setting table's rows, in its order.
+    mutable std::vector<view::Control*> m_settingControls;
     bool m_subTableListLoaded = false;
     bool m_linkTableListLoaded = false;
 };

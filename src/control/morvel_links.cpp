@@ -2,11 +2,13 @@
 #include "base/text.h"
 #include "catalogue/field_types.h"
 #include "catalogue/property_keys.h"
+#include "catalogue/setting_boxes.h"
 #include "control/morvel.h"
-#include "control/setting_boxes.h"
+#include "control/setting_values.h"
 #include "fields/field_utility.h"
 
 #include <string_view>
+#include <unordered_map>
 
 namespace morvel::control {
 
@@ -20,23 +22,47 @@ constexpr std::int32_t kMaximumTables = 5000;
 constexpr std::string_view kSubTableFilter = "TableType=4";
 constexpr std::string_view kLinkTableFilter = "TableType=2";
 
+using catalogue::Fill;
+using catalogue::Shown;
+
+// The text of a text box or an editable combo box.
+const std::string& textOf(const view::Control& box) {
+    if (const auto* text = dynamic_cast<const view::TextBox*>(&box))
+        return text->text();
+    return dynamic_cast<const view::ComboBox&>(box).text();
+}
+
 } // namespace
+
+view::Control& Morvel::settingControl(const catalogue::SettingBox& row) const {
+    const std::span<const catalogue::SettingBox> rows = catalogue::settingBoxes();
+    if (m_settingControls.empty()) {
+        // The setting boxes sit on the panels; they are looked up by name once.
+        std::unordered_map<std::string_view, view::Control*> byName;
+        for (std::int32_t i = 1; i <= PanelArray::kCount; ++i)
+            for (view::Control* control : pic(i).children())
+                byName.emplace(control->name(), control);
+        for (const catalogue::SettingBox& each : rows)
+            m_settingControls.push_back(byName.at(each.box));
+    }
+    return *m_settingControls.at(static_cast<std::size_t>(&row - rows.data()));
+}
 
 void Morvel::writeBox(const view::Control& box) {
     FieldDef& field = currentField();
     const std::int32_t code = field.FieldType();
-    for (const SettingBox& row : settingBoxes()) {
-        if (&row.box.in(*this) != &box || row.key.empty() || !(row.anyType || row.types(code)))
+    for (const catalogue::SettingBox& row : catalogue::settingBoxes()) {
+        if (&settingControl(row) != &box || row.key.empty() || !(row.anyType || row.types(code)))
             continue;
         const auto* list = dynamic_cast<const view::ComboBox*>(&box);
         const std::int32_t index = list ? list->listIndex() : -1;
         Value value;
         switch (row.shown) {
         case Shown::Text:
-            value = Value(row.box.text(*this));
+            value = Value(textOf(box));
             break;
         case Shown::Number:
-            value = Value(FieldUtility::ToLong(std::string_view(row.box.text(*this))));
+            value = Value(FieldUtility::ToLong(std::string_view(textOf(box))));
             break;
         case Shown::ItemData:
             value = index < 0 ? Value(std::string()) : Value(list->itemData(index));
@@ -52,9 +78,9 @@ void Morvel::writeBox(const view::Control& box) {
     }
 }
 
-void Morvel::showSetting(const SettingBox& row, const FieldDef& field) {
+void Morvel::showSetting(const catalogue::SettingBox& row, const FieldDef& field) {
     const PropertyStore& stored = field.Properties();
-    view::Control& box = row.box.in(*this);
+    view::Control& box = settingControl(row);
     auto* list = dynamic_cast<view::ComboBox*>(&box);
     switch (row.fill) {
     case Fill::None:
@@ -66,11 +92,10 @@ void Morvel::showSetting(const SettingBox& row, const FieldDef& field) {
         LoadLinkTableList();
         break;
     case Fill::CipherKeyLengths:
-        FillCipherKeyLengths(*list, shownNumber(settingOf(&MorvelControls::cboEncryption), stored));
+        FillCipherKeyLengths(*list, shownNumber(catalogue::settingOf("cboEncryption"), stored));
         break;
     case Fill::HashKeyLengths:
-        FillHashKeyLengths(*list,
-                           shownNumber(settingOf(&MorvelControls::cboSignatureHash), stored));
+        FillHashKeyLengths(*list, shownNumber(catalogue::settingOf("cboSignatureHash"), stored));
         break;
     case Fill::LinkFields:
         list->clear();
@@ -83,7 +108,10 @@ void Morvel::showSetting(const SettingBox& row, const FieldDef& field) {
     switch (row.shown) {
     case Shown::Text:
     case Shown::Number:
-        row.box.setText(*this, shownText(row, stored));
+        if (auto* text = dynamic_cast<view::TextBox*>(&box))
+            text->setText(shownText(row, stored));
+        else
+            list->setText(shownText(row, stored));
         return;
     case Shown::ItemData:
         SelectByItemData(*list, shownNumber(row, stored));

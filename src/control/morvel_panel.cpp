@@ -1,8 +1,8 @@
 #include "base/text.h"
 #include "catalogue/field_types.h"
+#include "catalogue/setting_boxes.h"
 #include "control/morvel.h"
 #include "control/morvel_helpers.h"
-#include "control/setting_boxes.h"
 #include "fields/field_utility.h"
 
 #include <string>
@@ -87,7 +87,7 @@ std::string Morvel::LoadTypePage(morvel::FieldDef& field) {
         setAllVisible({&txtSize, &lblSize}, true);
     if (catalogue::isDirectLinkType(code))
         chkLinkParent.setVisible(code == catalogue::type::Link);
-    for (const SettingBox& row : settingBoxes())
+    for (const catalogue::SettingBox& row : catalogue::settingBoxes())
         if (!row.shownKey.empty() && row.types(code))
             showSetting(row, field);
     // Applied last: the object type box's Change may not fire when its text is already the stored

@@ -1,5 +1,5 @@
+#include "catalogue/setting_boxes.h"
 #include "control/morvel.h"
-#include "control/setting_boxes.h"
 
 namespace morvel::control {
 
@@ -15,7 +15,7 @@ void Morvel::cboEncryption_Click() {
     const FieldDef& field = currentField();
     if (!m_panelLoading)
         writeBox(cboEncryption);
-    showSetting(settingOf(&MorvelControls::cboEncryptionKeyLen), field);
+    showSetting(catalogue::settingOf("cboEncryptionKeyLen"), field);
 }
 
 void Morvel::cboEncryptionKeyLen_Click() {
@@ -30,7 +30,7 @@ void Morvel::cboSignatureHash_Click() {
     const FieldDef& field = currentField();
     if (!m_panelLoading)
         writeBox(cboSignatureHash);
-    showSetting(settingOf(&MorvelControls::cboSignatureKeyLen), field);
+    showSetting(catalogue::settingOf("cboSignatureKeyLen"), field);
 }
 
 void Morvel::cboSignatureKeyLen_Click() {

@@ -1,6 +1,6 @@
 #include "catalogue/field_types.h"
+#include "catalogue/setting_boxes.h"
 #include "control/designer_fixture.h"
-#include "control/setting_boxes.h"
 
 #include <algorithm>
 #include <map>
@@ -8,17 +8,17 @@
 namespace morvel::testing {
 namespace {
 
-using control::SettingBox;
-using control::Shown;
+using catalogue::SettingBox;
+using catalogue::Shown;
 
-// The setting table points at boxes by member and names types by predicate; whether a box can
-// show its setting the way its row says, and sits where its types' page is, the compiler cannot
-// see.
+// The setting table names boxes by their names and types by predicate; whether a box exists,
+// can show its setting the way its row says, and sits where its types' page is, the compiler
+// cannot see.
 using SettingBoxes = DesignerTest;
 
 TEST_F(SettingBoxes, EveryShownBoxIsAControlOfItsTypesPageAndOfTheKindItsRowNeeds) {
-    for (const SettingBox& row : control::settingBoxes()) {
-        const view::Control& box = row.box.in(designer);
+    for (const SettingBox& row : catalogue::settingBoxes()) {
+        const view::Control& box = designer.settingControl(row);
         EXPECT_FALSE(row.key.empty() && row.shownKey.empty()) << box.name();
         const bool list = dynamic_cast<const view::ComboBox*>(&box) != nullptr;
         const bool text = list || dynamic_cast<const view::TextBox*>(&box) != nullptr;
@@ -27,7 +27,7 @@ TEST_F(SettingBoxes, EveryShownBoxIsAControlOfItsTypesPageAndOfTheKindItsRowNeed
                           : row.shown == Shown::ItemData || row.shown == Shown::EntryText ? list
                                                                                           : text;
         EXPECT_TRUE(fits) << box.name();
-        EXPECT_TRUE(row.fill == control::Fill::None || list) << box.name();
+        EXPECT_TRUE(row.fill == catalogue::Fill::None || list) << box.name();
         if (row.shownKey.empty())
             continue;
         for (const catalogue::TypeTraits& type : catalogue::typeTraits()) {
@@ -42,12 +42,11 @@ TEST_F(SettingBoxes, EveryShownBoxIsAControlOfItsTypesPageAndOfTheKindItsRowNeed
 
 // A box writes on one event and shows one way; two boxes that show one key show it alike.
 TEST_F(SettingBoxes, RowsOfOneBoxOrOneKeyAgree) {
-    std::map<const view::Control*, const SettingBox*> byBox;
+    std::map<std::string_view, const SettingBox*> byBox;
     std::map<std::string_view, const SettingBox*> byKey;
-    for (const SettingBox& row : control::settingBoxes()) {
-        const view::Control* box = &row.box.in(designer);
-        const SettingBox& first = *byBox.emplace(box, &row).first->second;
-        EXPECT_TRUE(first.commit == row.commit && first.anyType == row.anyType) << box->name();
+    for (const SettingBox& row : catalogue::settingBoxes()) {
+        const SettingBox& first = *byBox.emplace(row.box, &row).first->second;
+        EXPECT_TRUE(first.commit == row.commit && first.anyType == row.anyType) << row.box;
         if (row.shownKey.empty())
             continue;
         const SettingBox& shown = *byKey.emplace(row.shownKey, &row).first->second;
@@ -59,7 +58,7 @@ TEST_F(SettingBoxes, RowsOfOneBoxOrOneKeyAgree) {
 // and, unless the row says it writes for any type, only for the row's types.
 TEST_F(SettingBoxes, TypedBoxesWriteOnTheirRowsEventForTheirRowsTypes) {
     std::int32_t typed = 0; // a new text every time, so that every setText raises Change
-    for (const SettingBox& row : control::settingBoxes()) {
+    for (const SettingBox& row : catalogue::settingBoxes()) {
         if (row.key.empty() || !(row.shown == Shown::Text || row.shown == Shown::Number))
             continue;
         const auto ownType = std::ranges::find_if(
@@ -67,15 +66,18 @@ TEST_F(SettingBoxes, TypedBoxesWriteOnTheirRowsEventForTheirRowsTypes) {
         for (const std::int32_t code : {ownType->code, catalogue::type::Text}) {
             auto defs = give({{"Field", code}});
             const PropertyStore& stored = defs->Item(1)->Properties();
-            view::Control& box = row.box.in(designer);
-            row.box.setText(designer, std::to_string(++typed));
+            view::Control& box = designer.settingControl(row);
+            if (auto* text = dynamic_cast<view::TextBox*>(&box))
+                text->setText(std::to_string(++typed));
+            else
+                dynamic_cast<view::ComboBox&>(box).setText(std::to_string(++typed));
             const bool onChange = stored.Lookup(row.key) != nullptr;
             box.LostFocus.notify();
             const bool written = stored.Lookup(row.key) != nullptr;
             const std::string what =
                 box.name() + " " + std::string(row.key) + " for " + std::to_string(code);
             EXPECT_EQ(written, code == ownType->code || row.anyType) << what;
-            EXPECT_EQ(onChange, written && row.commit == control::Commit::Change) << what;
+            EXPECT_EQ(onChange, written && row.commit == catalogue::Commit::Change) << what;
         }
     }
 }

@@ -3,8 +3,9 @@
 #include "base/text.h"
 #include "catalogue/field_types.h"
 #include "catalogue/security.h"
+#include "catalogue/setting_boxes.h"
 #include "catalogue/validation.h"
-#include "control/setting_boxes.h"
+#include "control/setting_values.h"
 #include "fields/field_utility.h"
 
 #include <algorithm>
@@ -109,26 +110,27 @@ public:
     // Every setting box of the type's page shows its stored setting or its read default.
     void typePage() {
         const PropertyStore& stored = m_field.Properties();
-        for (const control::SettingBox& row : control::settingBoxes()) {
+        for (const catalogue::SettingBox& row : catalogue::settingBoxes()) {
             if (row.shownKey.empty() || !row.types(m_field.FieldType()))
                 continue;
-            const view::Control& box = row.box.in(m_designer);
+            const view::Control& box = m_designer.settingControl(row);
             if (m_pending.contains(box.name()))
                 continue;
             const auto* list = dynamic_cast<const view::ComboBox*>(&box);
             switch (row.shown) {
-            case control::Shown::Text:
-            case control::Shown::Number:
-                m_verdict.equal(row.box.text(m_designer), control::shownText(row, stored),
-                                box.name());
+            case catalogue::Shown::Text:
+            case catalogue::Shown::Number:
+                m_verdict.equal(list ? list->text()
+                                     : dynamic_cast<const view::TextBox&>(box).text(),
+                                control::shownText(row, stored), box.name());
                 break;
-            case control::Shown::ItemData:
+            case catalogue::Shown::ItemData:
                 checkSelection(m_verdict, *list, control::shownNumber(row, stored));
                 break;
-            case control::Shown::EntryText:
+            case catalogue::Shown::EntryText:
                 checkEntryText(*list, control::shownText(row, stored));
                 break;
-            case control::Shown::Checked:
+            case catalogue::Shown::Checked:
                 // True is kept as a Boolean; a stored -1 reads as True as well.
                 m_verdict.equal(dynamic_cast<const view::CheckBox&>(box).value(),
                                 control::shownNumber(row, stored) == -1 ? 1 : 0, box.name());
@@ -141,20 +143,18 @@ public:
     }
 
 private:
-    std::int32_t shownNumberOf(control::BoxRef box) const {
-        return control::shownNumber(control::settingOf(box), m_field.Properties());
+    std::int32_t shownNumberOf(std::string_view box) const {
+        return control::shownNumber(catalogue::settingOf(box), m_field.Properties());
     }
 
-    void checkFill(const control::SettingBox& row, const view::ComboBox& list) {
-        using control::Fill;
+    void checkFill(const catalogue::SettingBox& row, const view::ComboBox& list) {
+        using catalogue::Fill;
         if (row.fill == Fill::CipherKeyLengths)
             checkEntries(m_verdict, list,
-                         catalogue::cipherKeyLengths(
-                             shownNumberOf(&control::MorvelControls::cboEncryption)));
+                         catalogue::cipherKeyLengths(shownNumberOf("cboEncryption")));
         if (row.fill == Fill::HashKeyLengths)
             checkEntries(m_verdict, list,
-                         catalogue::hashKeyLengths(
-                             shownNumberOf(&control::MorvelControls::cboSignatureHash)));
+                         catalogue::hashKeyLengths(shownNumberOf("cboSignatureHash")));
         if (row.fill != Fill::LinkFields)
             return;
         std::vector<std::string> shown;
