@@ -1,5 +1,7 @@
 #include "field_generator.h"
 
+#include "catalogue/property_keys.h"
+
 #include <array>
 #include <string_view>
 
@@ -76,29 +78,29 @@ void addLinkSettings(FieldDef& field, std::int32_t index, bool ado) {
     PropertyStore& props = field.Properties();
     const std::string table(kEntities[static_cast<std::size_t>(index * 7) % kEntities.size()]);
     if (ado) {
-        props.SetValue("ADO.ConnStr", "Provider=SQLOLEDB;Data Source=erp;Initial Catalog=" + table,
-                       true);
-        props.SetValue("ADO.Table", table + "s", true);
-        props.SetValue("ADO.IDField", table + "ID", true);
-        props.SetValue("ADO.DispField", table + "Name", true);
+        props.SetValue(catalogue::kAdoConnStr,
+                       "Provider=SQLOLEDB;Data Source=erp;Initial Catalog=" + table, true);
+        props.SetValue(catalogue::kAdoTable, table + "s", true);
+        props.SetValue(catalogue::kAdoIdField, table + "ID", true);
+        props.SetValue(catalogue::kAdoDispField, table + "Name", true);
         return;
     }
     // Half the direct links point to objects (an object type, a filter, an order field), the
     // other half to a table (its ID and display fields).
     if (index % 2 == 0) {
-        props.SetValue("zrDirect.OT", 100 + index % 20, true);
-        props.SetValue("zrDirect.OB", table + "Name", true);
-        props.SetValue("zrDirect.Q", "Active = 1", true);
+        props.SetValue(catalogue::kDirectObjectType, 100 + index % 20, true);
+        props.SetValue(catalogue::kDirectOrderBy, table + "Name", true);
+        props.SetValue(catalogue::kDirectCoreFilter, "Active = 1", true);
         if (index % 3 == 0)
-            props.SetValue("zrDirect.S", 1, true);
+            props.SetValue(catalogue::kDirectStatus, 1, true);
     } else {
-        props.SetValue("zrDirect.Table", table + "s", true);
-        props.SetValue("zrDirect.ID", "zrID", true);
-        props.SetValue("zrDirect.Disp", table + "Name", true);
-        props.SetValue("zrDirect.Disp123", table + "Name", true);
+        props.SetValue(catalogue::kDirectTable, table + "s", true);
+        props.SetValue(catalogue::kDirectId, "zrID", true);
+        props.SetValue(catalogue::kDirectDisp, table + "Name", true);
+        props.SetValue(catalogue::kDirectDispCopy, table + "Name", true);
     }
     if (index % 5 == 0)
-        props.SetValue("Lnk.Parent", true, true);
+        props.SetValue(catalogue::kLinkParent, true, true);
 }
 
 void addListValues(FieldDef& field, std::int32_t index, bool bitMask) {
@@ -119,12 +121,12 @@ void addTypeSettings(FieldDef& field, std::int32_t index) {
         break;
     case 20008:
         field.SetSize(64);
-        field.Properties().SetValue("Encyrpt.Type", 1 + index % 2, true);
-        field.Properties().SetValue("Encyrpt.KeyLen", 256, true);
+        field.Properties().SetValue(catalogue::kEncryptType, 1 + index % 2, true);
+        field.Properties().SetValue(catalogue::kEncryptKeyLen, 256, true);
         break;
     case 20200:
-        field.Properties().SetValue("Encyrpt.Type", 1, true);
-        field.Properties().SetValue("Encyrpt.KeyLen", 128 + 64 * (index % 2), true);
+        field.Properties().SetValue(catalogue::kEncryptType, 1, true);
+        field.Properties().SetValue(catalogue::kEncryptKeyLen, 128 + 64 * (index % 2), true);
         break;
     case 1000:
     case 1010:
@@ -143,7 +145,7 @@ void addTypeSettings(FieldDef& field, std::int32_t index) {
         addListValues(field, index, true);
         break;
     case 3000:
-        field.Properties().SetValue("zrDirect.ConnStr", "LDAP://corp.example", true);
+        field.Properties().SetValue(catalogue::kDirectConnStr, "LDAP://corp.example", true);
         break;
     default:
         break;

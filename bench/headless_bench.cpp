@@ -2,6 +2,7 @@
 // designer that already holds N fields. Every benchmark leaves the shared designer as it found it.
 
 #include "bench_plan.h"
+#include "catalogue/property_keys.h"
 #include "field_generator.h"
 #include "headless_world.h"
 #include "process_memory.h"
@@ -81,7 +82,7 @@ void Headless_KeystrokeSize(State& state) {
 void Headless_KeystrokeOrderField(State& state) {
     HeadlessWorld& world = HeadlessWorld::shared(fieldCount(state));
     // A link to objects shows the order field, on the link page that the user opens first.
-    world.clickRow(world.lastOfType(kLink, "zrDirect.OT"));
+    world.clickRow(world.lastOfType(kLink, catalogue::kDirectObjectType));
     world.designer.TabStrip.click(2);
     typeAlternately(state, world.designer.txtOrderField);
     world.designer.TabStrip.click(1);

@@ -33,11 +33,19 @@ Morvel::Morvel(view::Prompter& prompter, view::ModalHost& modalHost)
 
 Morvel::~Morvel() = default;
 
+template <void (Morvel::*Handler)()> void Morvel::unlessLoading() {
+    if (!m_panelLoading)
+        (this->*Handler)();
+}
+
 void Morvel::wireEvents() {
     auto on = [this](Signal<>& event, void (Morvel::*handler)()) {
         m_wiring += event.connect([this, handler] { runAsOwnAction(handler); });
     };
 
+    // Showing a field is not editing it: the handlers that write to the field or mirror into its
+    // row are wired through unlessLoading, which does not run them while the panel is being
+    // filled. The plain ones write nothing, or go on with their other work during a load.
     on(lst.Click, &Morvel::lst_Click);
     m_wiring += lst.ItemClick.connect([this](view::ListItem& item) { lst_ItemClick(item); });
     on(TabStrip.Click, &Morvel::TabStrip_Click);
@@ -49,59 +57,60 @@ void Morvel::wireEvents() {
 
     // General page.
     on(txtName.Change, &Morvel::txtName_Change);
-    on(txtName.LostFocus, &Morvel::txtName_LostFocus);
-    on(txtDisplayName.Change, &Morvel::txtDisplayName_Change);
+    on(txtName.LostFocus, &Morvel::unlessLoading<&Morvel::txtName_LostFocus>);
+    on(txtDisplayName.Change, &Morvel::unlessLoading<&Morvel::txtDisplayName_Change>);
     on(cboType.Click, &Morvel::cboType_Click);
     on(cmdList.Click, &Morvel::cmdList_Click);
-    on(txtDescription.Change, &Morvel::txtDescription_Change);
-    on(txtDefault.Change, &Morvel::txtDefault_Change);
-    on(txtSize.Change, &Morvel::txtSize_Change);
-    on(chkCreateOnDemand.Click, &Morvel::chkCreateOnDemand_Click);
-    on(txtCtrlReadOnly.Change, &Morvel::txtCtrlReadOnly_Change);
-    on(txtCtrlReadOnly.LostFocus, &Morvel::txtCtrlReadOnly_LostFocus);
-    on(txtCtrlEdit.Change, &Morvel::txtCtrlEdit_Change);
-    on(txtCtrlEdit.LostFocus, &Morvel::txtCtrlEdit_LostFocus);
-    on(txtCtrlList.Change, &Morvel::txtCtrlList_Change);
-    on(cboValidation.Click, &Morvel::cboValidation_Click);
+    on(txtDescription.Change, &Morvel::unlessLoading<&Morvel::txtDescription_Change>);
+    on(txtDefault.Change, &Morvel::unlessLoading<&Morvel::txtDefault_Change>);
+    on(txtSize.Change, &Morvel::unlessLoading<&Morvel::txtSize_Change>);
+    on(chkCreateOnDemand.Click, &Morvel::unlessLoading<&Morvel::chkCreateOnDemand_Click>);
+    on(txtCtrlReadOnly.Change, &Morvel::unlessLoading<&Morvel::txtCtrlReadOnly_Change>);
+    on(txtCtrlReadOnly.LostFocus, &Morvel::unlessLoading<&Morvel::txtCtrlReadOnly_LostFocus>);
+    on(txtCtrlEdit.Change, &Morvel::unlessLoading<&Morvel::txtCtrlEdit_Change>);
+    on(txtCtrlEdit.LostFocus, &Morvel::unlessLoading<&Morvel::txtCtrlEdit_LostFocus>);
+    on(txtCtrlList.Change, &Morvel::unlessLoading<&Morvel::txtCtrlList_Change>);
+    on(cboValidation.Click, &Morvel::unlessLoading<&Morvel::cboValidation_Click>);
     on(cmdLocale.Click, &Morvel::cmdLocale_Click);
 
     // Link page.
     on(txtObjectType.Change, &Morvel::txtObjectType_Change);
-    on(txtStatus.Change, &Morvel::txtStatus_Change);
-    on(cboLinkTableName.Change, &Morvel::cboLinkTableName_Change);
-    on(cboLinkTableName.Click, &Morvel::cboLinkTableName_Click);
-    on(txtLinkTableName.Change, &Morvel::txtLinkTableName_Change);
-    on(txtLinkIDField.Change, &Morvel::txtLinkIDField_Change);
-    on(txtLinkDisplayField.Change, &Morvel::txtLinkDisplayField_Change);
-    on(txtLinkSelect.Change, &Morvel::txtLinkSelect_Change);
-    on(txtCoreFilter.Change, &Morvel::txtCoreFilter_Change);
-    on(txtAdditionalFilter.Change, &Morvel::txtAdditionalFilter_Change);
-    on(txtOrderField.Change, &Morvel::txtOrderField_Change);
-    on(chkLinkParent.Click, &Morvel::chkLinkParent_Click);
+    on(txtStatus.Change, &Morvel::unlessLoading<&Morvel::txtStatus_Change>);
+    on(cboLinkTableName.Change, &Morvel::unlessLoading<&Morvel::cboLinkTableName_Change>);
+    on(cboLinkTableName.Click, &Morvel::unlessLoading<&Morvel::cboLinkTableName_Click>);
+    on(txtLinkTableName.Change, &Morvel::unlessLoading<&Morvel::txtLinkTableName_Change>);
+    on(txtLinkIDField.Change, &Morvel::unlessLoading<&Morvel::txtLinkIDField_Change>);
+    on(txtLinkDisplayField.Change, &Morvel::unlessLoading<&Morvel::txtLinkDisplayField_Change>);
+    on(txtLinkSelect.Change, &Morvel::unlessLoading<&Morvel::txtLinkSelect_Change>);
+    on(txtCoreFilter.Change, &Morvel::unlessLoading<&Morvel::txtCoreFilter_Change>);
+    on(txtAdditionalFilter.Change, &Morvel::unlessLoading<&Morvel::txtAdditionalFilter_Change>);
+    on(txtOrderField.Change, &Morvel::unlessLoading<&Morvel::txtOrderField_Change>);
+    on(chkLinkParent.Click, &Morvel::unlessLoading<&Morvel::chkLinkParent_Click>);
 
     // Database page.
-    on(txtConnStr.Change, &Morvel::txtConnStr_Change);
-    on(txtTable.Change, &Morvel::txtTable_Change);
-    on(txtIDField.Change, &Morvel::txtIDField_Change);
-    on(txtDispField.Change, &Morvel::txtDispField_Change);
-    on(txtSQL.Change, &Morvel::txtSQL_Change);
+    on(txtConnStr.Change, &Morvel::unlessLoading<&Morvel::txtConnStr_Change>);
+    on(txtTable.Change, &Morvel::unlessLoading<&Morvel::txtTable_Change>);
+    on(txtIDField.Change, &Morvel::unlessLoading<&Morvel::txtIDField_Change>);
+    on(txtDispField.Change, &Morvel::unlessLoading<&Morvel::txtDispField_Change>);
+    on(txtSQL.Change, &Morvel::unlessLoading<&Morvel::txtSQL_Change>);
 
     // Sub table and sub link pages.
-    on(cboSubTable.Click, &Morvel::cboSubTable_Click);
-    on(txtSubTable.Change, &Morvel::txtSubTable_Change);
-    on(txtSubTableFieldID.Change, &Morvel::txtSubTableFieldID_Change);
-    on(cboLinkFields.Click, &Morvel::cboLinkFields_Click);
-    on(txtSubLinkTable.LostFocus, &Morvel::txtSubLinkTable_LostFocus);
-    on(txtSubLinkPIDField.LostFocus, &Morvel::txtSubLinkPIDField_LostFocus);
-    on(txtSubLinkDisplayName.LostFocus, &Morvel::txtSubLinkDisplayName_LostFocus);
-    on(txtSubLinkOrderBy.LostFocus, &Morvel::txtSubLinkOrderBy_LostFocus);
+    on(cboSubTable.Click, &Morvel::unlessLoading<&Morvel::cboSubTable_Click>);
+    on(txtSubTable.Change, &Morvel::unlessLoading<&Morvel::txtSubTable_Change>);
+    on(txtSubTableFieldID.Change, &Morvel::unlessLoading<&Morvel::txtSubTableFieldID_Change>);
+    on(cboLinkFields.Click, &Morvel::unlessLoading<&Morvel::cboLinkFields_Click>);
+    on(txtSubLinkTable.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkTable_LostFocus>);
+    on(txtSubLinkPIDField.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkPIDField_LostFocus>);
+    on(txtSubLinkDisplayName.LostFocus,
+       &Morvel::unlessLoading<&Morvel::txtSubLinkDisplayName_LostFocus>);
+    on(txtSubLinkOrderBy.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkOrderBy_LostFocus>);
 
     // Signature and encryption pages.
     on(cboSignatureHash.Click, &Morvel::cboSignatureHash_Click);
-    on(cboSignatureKeyLen.Click, &Morvel::cboSignatureKeyLen_Click);
-    on(txtSignatureFields.LostFocus, &Morvel::txtSignatureFields_LostFocus);
+    on(cboSignatureKeyLen.Click, &Morvel::unlessLoading<&Morvel::cboSignatureKeyLen_Click>);
+    on(txtSignatureFields.LostFocus, &Morvel::unlessLoading<&Morvel::txtSignatureFields_LostFocus>);
     on(cboEncryption.Click, &Morvel::cboEncryption_Click);
-    on(cboEncryptionKeyLen.Click, &Morvel::cboEncryptionKeyLen_Click);
+    on(cboEncryptionKeyLen.Click, &Morvel::unlessLoading<&Morvel::cboEncryptionKeyLen_Click>);
 }
 
 void Morvel::leaveFocusedBox() {

@@ -13,6 +13,11 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
+
+namespace morvel::catalogue {
+struct SettingBox;
+} // namespace morvel::catalogue
 
 namespace morvel::control {
 
@@ -134,6 +139,9 @@ public:
     void cboSignatureKeyLen_Click();
     void txtSignatureFields_LostFocus();
 
+    // The box of a row of catalogue::settingBoxes() (a reference into that table).
+    view::Control& settingControl(const catalogue::SettingBox& row) const;
+
     // Layout.
     void UserControl_Resize();
     void pic_Resize(std::int32_t Index);
@@ -156,6 +164,8 @@ private:
     // Whether the panel shows something of that field: it is current, or the current field's
     // page lists it.
     bool panelShows(const morvel::FieldDef& field, FieldMember member) const;
+    // The handler, run unless the panel is being filled; how wireEvents guards writing handlers.
+    template <void (Morvel::*Handler)()> void unlessLoading();
     // Leaves the focused box before the host shows another field, so that a box which stores its
     // text on LostFocus stores it into the field it was typed for.
     void leaveFocusedBox();
@@ -172,6 +182,12 @@ private:
     std::string LoadTypePage(morvel::FieldDef& field);
     // Lock of the name, the type and (for pre-existing rows) the encryption settings.
     bool mayModifyCurrentRow() const;
+    // Stores what the box shows under the keys its rows in the setting table give for the current
+    // field's type; NoCurrentFieldError when there is no current field.
+    void writeBox(const view::Control& box);
+    // Fills the row's list if it has one, then shows the field's stored setting (or its read
+    // default) in the row's box.
+    void showSetting(const catalogue::SettingBox& row, const morvel::FieldDef& field);
 
     view::Prompter& m_prompter;
     view::ModalHost& m_modalHost;
@@ -186,14 +202,16 @@ private:
     bool m_canModifyExisting = false;
     // Set only while SelectByItemData moves a combo selection.
     bool m_loading = false;
-    // Set while LoadPanel fills the panel: showing a field must not write to it, so the change
-    // handlers of the boxes neither write to the field nor mirror into the row meanwhile.
+    // Set while LoadPanel fills the panel: showing a field must not write to it, so the handlers
+    // that write are wired not to run meanwhile (see wireEvents).
     bool m_panelLoading = false;
     // Set while a wired handler runs: every write meanwhile is the control's own.
     bool m_ownAction = false;
     // The row of each field, by identity: the row key is the field's name, which others change.
     FieldRowIndex m_rowById;
     std::string m_stepText;
+    // The controls of the setting table's rows, in its order.
+    mutable std::vector<view::Control*> m_settingControls;
     bool m_subTableListLoaded = false;
     bool m_linkTableListLoaded = false;
 };

@@ -1,14 +1,13 @@
 #include "base/handler_policy.h"
 #include "base/text.h"
-#include "catalogue/field_types.h"
 #include "control/morvel.h"
 #include "fields/field_utility.h"
 
 namespace morvel::control {
 
 // Basic attributes: each handler writes its one value into the current field at once and
-// mirrors it into the current row where the list has a column for it. While the panel is being
-// filled nothing is written: showing a field must not change it.
+// mirrors it into the current row where the list has a column for it. None of them runs while the
+// panel is being filled (the wiring sees to that) except the name correction.
 
 namespace {
 
@@ -35,8 +34,6 @@ void Morvel::txtName_Change() {
 // The rename takes the box text untrimmed. A name that the collection already knows (letter case
 // ignored, the field's own name included) is undone silently.
 void Morvel::txtName_LostFocus() {
-    if (m_panelLoading)
-        return;
     FieldDef& field = currentField();
     const std::string typed = txtName.text();
     if (moFieldDefs && moFieldDefs->find(typed)) {
@@ -53,7 +50,7 @@ void Morvel::txtName_LostFocus() {
 }
 
 void Morvel::txtSize_Change() {
-    if (!m_currentField || m_panelLoading)
+    if (!m_currentField)
         return;
     const std::string& typed = txtSize.text();
     setCell("Size", typed);
@@ -61,7 +58,7 @@ void Morvel::txtSize_Change() {
 }
 
 void Morvel::txtDisplayName_Change() {
-    if (!m_currentField || m_panelLoading)
+    if (!m_currentField)
         return;
     const std::string& typed = txtDisplayName.text();
     setCell("DisplayName", typed);
@@ -69,20 +66,14 @@ void Morvel::txtDisplayName_Change() {
 }
 
 void Morvel::txtDescription_Change() {
-    if (m_panelLoading)
-        return;
     skipFailingSteps([&] { currentField().SetDescription(txtDescription.text()); });
 }
 
 void Morvel::txtDefault_Change() {
-    if (m_panelLoading)
-        return;
     skipFailingSteps([&] { currentField().SetDefaultValue(txtDefault.text()); });
 }
 
 void Morvel::txtCtrlEdit_Change() {
-    if (m_panelLoading)
-        return;
     skipFailingSteps([&] { setCell("CtrlEdit", txtCtrlEdit.text()); },
                      [&] { currentField().SetCtrlEdit(txtCtrlEdit.text()); });
 }
@@ -93,8 +84,6 @@ void Morvel::txtCtrlEdit_LostFocus() {
 }
 
 void Morvel::txtCtrlReadOnly_Change() {
-    if (m_panelLoading)
-        return;
     skipFailingSteps([&] { setCell("CtrlReadOnly", txtCtrlReadOnly.text()); },
                      [&] { currentField().SetCtrlReadOnly(txtCtrlReadOnly.text()); });
 }
@@ -104,14 +93,12 @@ void Morvel::txtCtrlReadOnly_LostFocus() {
 }
 
 void Morvel::txtCtrlList_Change() {
-    if (m_panelLoading)
-        return;
     skipFailingSteps([&] { setCell("CtrlList", txtCtrlList.text()); },
                      [&] { currentField().SetCtrlList(txtCtrlList.text()); });
 }
 
 void Morvel::cboValidation_Click() {
-    if (m_loading || m_panelLoading || !m_currentField)
+    if (m_loading || !m_currentField)
         return;
     const std::int32_t code = cboValidation.itemData(cboValidation.listIndex());
     setCell("Validation", GetValidationName(code));
@@ -119,19 +106,12 @@ void Morvel::cboValidation_Click() {
 }
 
 void Morvel::chkCreateOnDemand_Click() {
-    if (m_panelLoading)
-        return;
     currentField().SetCreateOnDemand(chkCreateOnDemand.value() == 1);
 }
 
 // The status filters the linked objects, so only the direct link types keep one.
 void Morvel::txtStatus_Change() {
-    if (m_panelLoading)
-        return;
-    FieldDef& field = currentField();
-    if (!catalogue::isDirectLinkType(field.FieldType()))
-        return;
-    field.Properties().SetValue("zrDirect.S", Value(numberIn(txtStatus)), true);
+    writeBox(txtStatus);
 }
 
 } // namespace morvel::control

@@ -1,107 +1,167 @@
 #include "base/handler_policy.h"
+#include "base/text.h"
 #include "catalogue/field_types.h"
+#include "catalogue/property_keys.h"
+#include "catalogue/setting_boxes.h"
 #include "control/morvel.h"
+#include "control/setting_values.h"
 #include "fields/field_utility.h"
 
 #include <string_view>
+#include <unordered_map>
 
 namespace morvel::control {
 
-// Link, database, sub table and sub link settings, stored as keyed properties of the field.
-// While the panel is being filled nothing is written: showing a field must not change it.
+// Link, database, sub table and sub link settings, stored as keyed properties of the field. Which
+// box writes which key for which types is the table of setting boxes; the handlers name their box
+// and their failure policy.
 
 namespace {
-
-// The box's text as a whole number, converted the library's tolerant way.
-std::int32_t numberIn(const view::TextBox& box) {
-    return FieldUtility::ToLong(std::string_view(box.text()));
-}
 
 constexpr std::int32_t kMaximumTables = 5000;
 constexpr std::string_view kSubTableFilter = "TableType=4";
 constexpr std::string_view kLinkTableFilter = "TableType=2";
 
-void storeText(FieldDef& field, std::string_view key, std::string text) {
-    field.Properties().SetValue(key, Value(std::move(text)), true);
-}
+using catalogue::Fill;
+using catalogue::Shown;
 
-void storeLong(FieldDef& field, std::string_view key, std::int32_t number) {
-    field.Properties().SetValue(key, Value(number), true);
-}
-
-// The boxes of the database page serve two families of links: a link through the system's own
-// tables keeps its settings under "zrDirect." keys, a link through an ADO connection under "ADO."
-// keys. Any other type keeps nothing, whatever is typed.
-void storeByFamily(FieldDef& field, std::string_view directKey, std::string_view adoKey,
-                   std::string text) {
-    const std::int32_t type = field.FieldType();
-    if (catalogue::isDirectLinkType(type))
-        storeText(field, directKey, std::move(text));
-    else if (catalogue::isAdoLinkType(type))
-        storeText(field, adoKey, std::move(text));
-}
-
-// The settings of the link page belong to "Link" and "Multiple Link" only.
-void storeForDirectLink(FieldDef& field, std::string_view key, std::string text) {
-    if (catalogue::isDirectLinkType(field.FieldType()))
-        storeText(field, key, std::move(text));
+// The text of a text box or an editable combo box.
+const std::string& textOf(const view::Control& box) {
+    if (const auto* text = dynamic_cast<const view::TextBox*>(&box))
+        return text->text();
+    return dynamic_cast<const view::ComboBox&>(box).text();
 }
 
 } // namespace
 
-void Morvel::txtTable_Change() {
-    if (m_panelLoading)
-        return;
-    skipFailingSteps(
-        [&] { storeByFamily(currentField(), "zrDirect.Table", "ADO.Table", txtTable.text()); });
+view::Control& Morvel::settingControl(const catalogue::SettingBox& row) const {
+    const std::span<const catalogue::SettingBox> rows = catalogue::settingBoxes();
+    if (m_settingControls.empty()) {
+        // The setting boxes sit on the panels; they are looked up by name once.
+        std::unordered_map<std::string_view, view::Control*> byName;
+        for (std::int32_t i = 1; i <= PanelArray::kCount; ++i)
+            for (view::Control* control : pic(i).children())
+                byName.emplace(control->name(), control);
+        for (const catalogue::SettingBox& each : rows)
+            m_settingControls.push_back(byName.at(each.box));
+    }
+    return *m_settingControls.at(static_cast<std::size_t>(&row - rows.data()));
 }
 
-// The editing boxes write "ADO.ID", "ADO.Disp" and "ADO.Select" while the panel shows
-// "ADO.IDField", "ADO.DispField" and "ADO.SQL": readers of the definitions rely on both forms.
-void Morvel::txtIDField_Change() {
-    if (m_panelLoading)
+void Morvel::writeBox(const view::Control& box) {
+    FieldDef& field = currentField();
+    const std::int32_t code = field.FieldType();
+    for (const catalogue::SettingBox& row : catalogue::settingBoxes()) {
+        if (&settingControl(row) != &box || row.key.empty() || !(row.anyType || row.types(code)))
+            continue;
+        const auto* list = dynamic_cast<const view::ComboBox*>(&box);
+        const std::int32_t index = list ? list->listIndex() : -1;
+        Value value;
+        switch (row.shown) {
+        case Shown::Text:
+            value = Value(textOf(box));
+            break;
+        case Shown::Number:
+            value = Value(FieldUtility::ToLong(std::string_view(textOf(box))));
+            break;
+        case Shown::ItemData:
+            value = index < 0 ? Value(std::string()) : Value(list->itemData(index));
+            break;
+        case Shown::EntryText:
+            value = Value(index < 0 ? std::string() : list->list(index));
+            break;
+        case Shown::Checked:
+            value = Value(true);
+            break;
+        }
+        field.Properties().SetValue(row.key, std::move(value), true);
+    }
+}
+
+void Morvel::showSetting(const catalogue::SettingBox& row, const FieldDef& field) {
+    const PropertyStore& stored = field.Properties();
+    view::Control& box = settingControl(row);
+    auto* list = dynamic_cast<view::ComboBox*>(&box);
+    switch (row.fill) {
+    case Fill::None:
+        break;
+    case Fill::SubTables:
+        LoadSubTableList();
+        break;
+    case Fill::LinkTables:
+        LoadLinkTableList();
+        break;
+    case Fill::CipherKeyLengths:
+        FillCipherKeyLengths(*list, shownNumber(catalogue::settingOf("cboEncryption"), stored));
+        break;
+    case Fill::HashKeyLengths:
+        FillHashKeyLengths(*list, shownNumber(catalogue::settingOf("cboSignatureHash"), stored));
+        break;
+    case Fill::LinkFields:
+        list->clear();
+        if (moFieldDefs)
+            for (const FieldDefPtr& each : *moFieldDefs)
+                if (each->FieldType() == catalogue::type::Link)
+                    list->addItem(each->Name());
+        break;
+    }
+    switch (row.shown) {
+    case Shown::Text:
+    case Shown::Number:
+        if (auto* text = dynamic_cast<view::TextBox*>(&box))
+            text->setText(shownText(row, stored));
+        else
+            list->setText(shownText(row, stored));
         return;
-    skipFailingSteps(
-        [&] { storeByFamily(currentField(), "zrDirect.ID", "ADO.ID", txtIDField.text()); });
+    case Shown::ItemData:
+        SelectByItemData(*list, shownNumber(row, stored));
+        return;
+    case Shown::EntryText: {
+        const std::string entry = shownText(row, stored);
+        for (std::int32_t i = 0; i < list->listCount(); ++i) {
+            if (equalsIgnoringCase(list->list(i), entry)) {
+                list->setListIndex(i);
+                return;
+            }
+        }
+        return;
+    }
+    case Shown::Checked:
+        // True is stored as a Boolean; a Long -1 means the same.
+        dynamic_cast<view::CheckBox&>(box).setValue(shownNumber(row, stored) == -1 ? 1 : 0);
+        return;
+    }
+}
+
+// The database page's boxes fail step by step: a missing field or a failing write is passed over.
+void Morvel::txtTable_Change() {
+    skipFailingSteps([this] { writeBox(txtTable); });
+}
+
+void Morvel::txtIDField_Change() {
+    skipFailingSteps([this] { writeBox(txtIDField); });
 }
 
 void Morvel::txtDispField_Change() {
-    if (m_panelLoading)
-        return;
-    skipFailingSteps(
-        [&] { storeByFamily(currentField(), "zrDirect.Disp", "ADO.Disp", txtDispField.text()); });
+    skipFailingSteps([this] { writeBox(txtDispField); });
 }
 
 void Morvel::txtSQL_Change() {
-    if (m_panelLoading)
-        return;
-    skipFailingSteps(
-        [&] { storeByFamily(currentField(), "zrDirect.Select", "ADO.Select", txtSQL.text()); });
+    skipFailingSteps([this] { writeBox(txtSQL); });
 }
 
-// The directory types keep a connection string of their own, and nothing else of this page.
 void Morvel::txtConnStr_Change() {
-    if (m_panelLoading)
-        return;
-    skipFailingSteps([&] {
-        FieldDef& field = currentField();
-        if (catalogue::isDirectoryType(field.FieldType()))
-            storeText(field, "zrDirect.ConnStr", txtConnStr.text());
-        else
-            storeByFamily(field, "zrDirect.ConnStr", "ADO.ConnStr", txtConnStr.text());
-    });
+    skipFailingSteps([this] { writeBox(txtConnStr); });
 }
 
 void Morvel::txtLinkTableName_Change() {
-    if (m_panelLoading)
-        return;
-    storeForDirectLink(currentField(), "zrDirect.Table", txtLinkTableName.text());
+    writeBox(txtLinkTableName);
 }
 
 void Morvel::cboLinkTableName_Change() {
-    if (m_loading || m_panelLoading)
+    if (m_loading)
         return;
-    storeForDirectLink(currentField(), "zrDirect.Table", cboLinkTableName.text());
+    writeBox(cboLinkTableName);
 }
 
 void Morvel::cboLinkTableName_Click() {
@@ -109,124 +169,88 @@ void Morvel::cboLinkTableName_Click() {
 }
 
 void Morvel::txtLinkIDField_Change() {
-    if (m_panelLoading)
-        return;
-    storeForDirectLink(currentField(), "zrDirect.ID", txtLinkIDField.text());
+    writeBox(txtLinkIDField);
 }
 
-// "zrDirect.Disp123" is a copy that older readers of the definitions expect; only
-// "zrDirect.Disp" is ever read back.
+// Written twice: a copy under a second key that only older readers of the definitions read.
 void Morvel::txtLinkDisplayField_Change() {
-    if (m_panelLoading)
-        return;
-    FieldDef& field = currentField();
-    storeForDirectLink(field, "zrDirect.Disp", txtLinkDisplayField.text());
-    storeForDirectLink(field, "zrDirect.Disp123", txtLinkDisplayField.text());
+    writeBox(txtLinkDisplayField);
 }
 
 void Morvel::txtLinkSelect_Change() {
-    if (m_panelLoading)
-        return;
-    storeForDirectLink(currentField(), "zrDirect.Select", txtLinkSelect.text());
+    writeBox(txtLinkSelect);
 }
 
 void Morvel::txtCoreFilter_Change() {
-    if (m_panelLoading)
-        return;
-    storeForDirectLink(currentField(), "zrDirect.Q", txtCoreFilter.text());
+    writeBox(txtCoreFilter);
 }
 
 void Morvel::txtAdditionalFilter_Change() {
-    if (m_panelLoading)
-        return;
-    storeForDirectLink(currentField(), "zrDirect.IQ", txtAdditionalFilter.text());
+    writeBox(txtAdditionalFilter);
 }
 
 void Morvel::txtOrderField_Change() {
-    if (m_panelLoading)
-        return;
-    storeForDirectLink(currentField(), "zrDirect.OB", txtOrderField.text());
+    writeBox(txtOrderField);
 }
 
 // A link with an object type links to objects and is narrowed by filters and a status; one
 // without links to a table. The page shows the controls of the one or the other, also while the
-// panel is being filled.
+// panel is being filled, which is why this handler is wired without the loading guard.
 void Morvel::txtObjectType_Change() {
-    FieldDef& field = currentField();
-    if (!catalogue::isDirectLinkType(field.FieldType()))
+    if (!catalogue::isDirectLinkType(currentField().FieldType()))
         return;
     if (!m_panelLoading)
-        storeLong(field, "zrDirect.OT", numberIn(txtObjectType));
-    ShowLinkControlsFor(numberIn(txtObjectType));
+        writeBox(txtObjectType);
+    ShowLinkControlsFor(FieldUtility::ToLong(std::string_view(txtObjectType.text())));
 }
 
 // An unchecked box leaves no key behind rather than False.
 void Morvel::chkLinkParent_Click() {
-    if (m_loading || m_panelLoading)
+    if (m_loading)
         return;
-    FieldDef& field = currentField();
     if (chkLinkParent.value() == 1)
-        field.Properties().SetValue("Lnk.Parent", Value(true), true);
+        writeBox(chkLinkParent);
     else
-        field.Properties().Remove("Lnk.Parent");
+        currentField().Properties().Remove(catalogue::kLinkParent);
 }
 
 void Morvel::txtSubTable_Change() {
-    if (m_panelLoading)
-        return;
-    skipFailingSteps([&] {
-        FieldDef& field = currentField();
-        if (field.FieldType() == catalogue::type::SubTable)
-            storeLong(field, "zrDirect.ST", numberIn(txtSubTable));
-    });
+    skipFailingSteps([this] { writeBox(txtSubTable); });
 }
 
 void Morvel::txtSubTableFieldID_Change() {
-    if (m_panelLoading)
-        return;
-    skipFailingSteps([&] {
-        FieldDef& field = currentField();
-        if (field.FieldType() == catalogue::type::SubTable)
-            storeLong(field, "zrDirect.STF", numberIn(txtSubTableFieldID));
-    });
+    skipFailingSteps([this] { writeBox(txtSubTableFieldID); });
 }
 
+// Unlike the other pick lists, no table picked stores the number 0, not the empty text.
 void Morvel::cboSubTable_Click() {
-    if (m_loading || m_panelLoading)
+    if (m_loading)
         return;
     const std::int32_t index = cboSubTable.listIndex();
-    storeLong(currentField(), "zrDirect.ST", index < 0 ? 0 : cboSubTable.itemData(index));
+    currentField().Properties().SetValue(catalogue::kDirectSubTable,
+                                         Value(index < 0 ? 0 : cboSubTable.itemData(index)), true);
 }
 
 void Morvel::txtSubLinkTable_LostFocus() {
-    if (m_panelLoading)
-        return;
-    storeText(currentField(), "SubLnk.Tbl", txtSubLinkTable.text());
+    writeBox(txtSubLinkTable);
 }
 
 void Morvel::txtSubLinkPIDField_LostFocus() {
-    if (m_panelLoading)
-        return;
-    storeText(currentField(), "SubLnk.PID", txtSubLinkPIDField.text());
+    writeBox(txtSubLinkPIDField);
 }
 
 void Morvel::txtSubLinkDisplayName_LostFocus() {
-    if (m_panelLoading)
-        return;
-    storeText(currentField(), "SubLnk.DN", txtSubLinkDisplayName.text());
+    writeBox(txtSubLinkDisplayName);
 }
 
 void Morvel::txtSubLinkOrderBy_LostFocus() {
-    if (m_panelLoading)
-        return;
-    storeText(currentField(), "SubLnk.OB", txtSubLinkOrderBy.text());
+    writeBox(txtSubLinkOrderBy);
 }
 
 void Morvel::cboLinkFields_Click() {
-    if (m_loading || m_panelLoading)
+    if (m_loading)
         return;
-    const std::int32_t index = cboLinkFields.listIndex();
-    storeText(currentField(), "SubLnk.Lnk", index < 0 ? std::string() : cboLinkFields.list(index));
+    writeBox(cboLinkFields);
 }
 
 // The look-ups run once per control instance, found or not, and whether or not a Database was

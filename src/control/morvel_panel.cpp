@@ -1,5 +1,6 @@
 #include "base/text.h"
 #include "catalogue/field_types.h"
+#include "catalogue/setting_boxes.h"
 #include "control/morvel.h"
 #include "control/morvel_helpers.h"
 #include "fields/field_utility.h"
@@ -9,25 +10,7 @@
 namespace morvel::control {
 
 namespace {
-
 constexpr std::string_view kNoModifyTag = ":NOMODIFY:";
-
-// Reads stored settings with the defaults that an absent key shows.
-class Settings {
-public:
-    explicit Settings(const PropertyStore& store)
-        : m_store(store) {}
-    std::string text(std::string_view key, Value defaultValue = Value(std::string())) const {
-        return m_store.GetValue(key, std::move(defaultValue)).toText();
-    }
-    std::int32_t number(std::string_view key, Value defaultValue) const {
-        return FieldUtility::ToLong(m_store.GetValue(key, std::move(defaultValue)));
-    }
-
-private:
-    const PropertyStore& m_store;
-};
-
 } // namespace
 
 bool Morvel::mayModifyCurrentRow() const {
@@ -97,92 +80,23 @@ void Morvel::LoadPanel() {
 }
 
 std::string Morvel::LoadTypePage(morvel::FieldDef& field) {
-    namespace type = catalogue::type;
     const std::int32_t code = field.FieldType();
-    const Settings stored(field.Properties());
 
     // Only ever shown here; hiding them is the type change's business.
     if (catalogue::hasSize(code))
         setAllVisible({&txtSize, &lblSize}, true);
-
-    if (catalogue::isEncryptedType(code)) {
-        const std::int32_t cipher = stored.number("Encyrpt.Type", 1);
-        SelectByItemData(cboEncryption, cipher);
-        FillCipherKeyLengths(cboEncryptionKeyLen, cipher);
-        SelectByItemData(cboEncryptionKeyLen, stored.number("Encyrpt.KeyLen", 0));
-        return "Encryption";
-    }
-    if (code == type::Signature) {
-        const std::int32_t hash = stored.number("Sign.Type", 1);
-        SelectByItemData(cboSignatureHash, hash);
-        FillHashKeyLengths(cboSignatureKeyLen, hash);
-        SelectByItemData(cboSignatureKeyLen, stored.number("Sign.KeyLen", 0));
-        txtSignatureFields.setText(stored.text("Sign.Flds"));
-        return "Signature";
-    }
-    if (code == type::SubTable) {
-        txtSubTableFieldID.setText(stored.text("zrDirect.STF", 0));
-        txtSubTable.setText(stored.text("zrDirect.ST", 0));
-        LoadSubTableList();
-        SelectByItemData(cboSubTable, stored.number("zrDirect.ST", 0));
-        return "Sub Table";
-    }
-    if (catalogue::isDirectoryType(code)) {
-        txtConnStr.setText(stored.text("zrDirect.ConnStr"));
-        return "Database";
-    }
-    if (catalogue::isAdoLinkType(code)) {
-        // The boxes write "ADO.ID", "ADO.Disp" and "ADO.Select"; these keys are the ones shown.
-        txtConnStr.setText(stored.text("ADO.ConnStr"));
-        txtTable.setText(stored.text("ADO.Table"));
-        txtIDField.setText(stored.text("ADO.IDField"));
-        txtDispField.setText(stored.text("ADO.DispField"));
-        txtSQL.setText(stored.text("ADO.SQL"));
-        return "Database";
-    }
-    if (catalogue::isDirectLinkType(code)) {
-        chkLinkParent.setVisible(code == type::Link);
-        txtObjectType.setText(stored.text("zrDirect.OT"));
-        txtCoreFilter.setText(stored.text("zrDirect.Q"));
-        txtAdditionalFilter.setText(stored.text("zrDirect.IQ"));
-        txtStatus.setText(stored.text("zrDirect.S"));
-        txtOrderField.setText(stored.text("zrDirect.OB", "DisplayName"));
-        txtLinkDisplayField.setText(stored.text("zrDirect.Disp", "DisplayName"));
-        txtLinkIDField.setText(stored.text("zrDirect.ID", "zrID"));
-        txtLinkSelect.setText(stored.text("zrDirect.Select"));
-        const std::string table = stored.text("zrDirect.Table");
-        txtLinkTableName.setText(table);
-        LoadLinkTableList();
-        cboLinkTableName.setText(table);
-        // Applied last: the box's Change may not fire when its text is already the stored one,
-        // and the first table look-up shows a table box even for a link to objects.
+    if (catalogue::isDirectLinkType(code))
+        chkLinkParent.setVisible(code == catalogue::type::Link);
+    for (const catalogue::SettingBox& row : catalogue::settingBoxes())
+        if (!row.shownKey.empty() && row.types(code))
+            showSetting(row, field);
+    // Applied last: the object type box's Change may not fire when its text is already the stored
+    // one, and the first table look-up shows a table box even for a link to objects.
+    if (catalogue::isDirectLinkType(code))
         ShowLinkControlsFor(FieldUtility::ToLong(std::string_view(txtObjectType.text())));
-        // True is stored as a Boolean; a Long -1 means the same.
-        chkLinkParent.setValue(stored.number("Lnk.Parent", false) == -1 ? 1 : 0);
-        return "Link Properties";
-    }
-    if (code == type::SubLink) {
-        cboLinkFields.clear();
-        if (moFieldDefs)
-            for (const FieldDefPtr& each : *moFieldDefs)
-                if (each->FieldType() == type::Link)
-                    cboLinkFields.addItem(each->Name());
-        const std::string linkField = stored.text("SubLnk.Lnk");
-        for (std::int32_t i = 0; i < cboLinkFields.listCount(); ++i) {
-            if (equalsIgnoringCase(cboLinkFields.list(i), linkField)) {
-                cboLinkFields.setListIndex(i);
-                break;
-            }
-        }
-        txtSubLinkTable.setText(stored.text("SubLnk.Tbl"));
-        txtSubLinkPIDField.setText(stored.text("SubLnk.PID"));
-        txtSubLinkDisplayName.setText(stored.text("SubLnk.DN"));
-        txtSubLinkOrderBy.setText(stored.text("SubLnk.OB"));
-        return "Sub Link";
-    }
     if (catalogue::isListType(code))
         cmdList.setVisible(true);
-    return {};
+    return std::string(catalogue::tabCaption(catalogue::typePage(code)));
 }
 
 void Morvel::ShowLinkControlsFor(std::int32_t objectType) {

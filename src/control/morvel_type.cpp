@@ -3,7 +3,6 @@
 #include "control/morvel_helpers.h"
 #include "fields/field_utility.h"
 
-#include <optional>
 #include <string>
 
 namespace morvel::control {
@@ -11,29 +10,6 @@ namespace morvel::control {
 namespace {
 
 namespace type = catalogue::type;
-
-// The second tab of a type and the panel that it shows. The caption is the one a type change
-// gives the tab; the panel load that follows it names the link page "Link Properties".
-struct TypePage {
-    std::string_view caption;
-    std::int32_t panel;
-};
-
-std::optional<TypePage> typePage(std::int32_t code) {
-    if (code == type::Signature)
-        return TypePage{"Signature", 6};
-    if (catalogue::isEncryptedType(code))
-        return TypePage{"Encryption", 7};
-    if (code == type::SubTable)
-        return TypePage{"Sub Table", 4};
-    if (code == type::SubLink)
-        return TypePage{"Sub Link", 5};
-    if (catalogue::isDirectLinkType(code))
-        return TypePage{"Database", 2};
-    if (catalogue::isAdoLinkType(code) || catalogue::isDirectoryType(code))
-        return TypePage{"Database", 3};
-    return std::nullopt;
-}
 
 // Names that a type forces on its field.
 constexpr std::string_view kTenantName = "zrTenant";
@@ -58,13 +34,17 @@ void Morvel::cboType_Click() {
         setCell("Size", "");
 
         const std::int32_t newType = currentField().FieldType();
-        const std::optional<TypePage> page = typePage(newType);
+        const catalogue::TypePage page = catalogue::typePage(newType);
         if (catalogue::hasSize(newType)) {
             setAllVisible({&txtSize, &lblSize}, true);
             setCell("Size", std::to_string(FieldUtility::ToLong(std::string_view(txtSize.text()))));
         }
-        if (page) {
-            TabStrip.add(2, std::string(page->caption));
+        if (page != catalogue::TypePage::None) {
+            // The link page is captioned "Database" here; the panel load that follows gives it its
+            // own caption.
+            TabStrip.add(2, catalogue::isDirectLinkType(newType)
+                                ? std::string("Database")
+                                : std::string(catalogue::tabCaption(page)));
             // A user who was looking at the type page keeps looking at it.
             if (selectedTab == 2)
                 TabStrip.setSelectedIndex(2);
@@ -120,8 +100,10 @@ void Morvel::TabStrip_Click() {
     if (selected != 2)
         return;
     // Every type without a page of its own falls back to the database page.
-    const std::optional<TypePage> page = typePage(currentField().FieldType());
-    pic(page ? page->panel : 3).setVisible(true);
+    const catalogue::TypePage page = catalogue::typePage(currentField().FieldType());
+    pic(static_cast<std::int32_t>(page == catalogue::TypePage::None ? catalogue::TypePage::Database
+                                                                    : page))
+        .setVisible(true);
 }
 
 } // namespace morvel::control

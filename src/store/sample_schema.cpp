@@ -1,6 +1,7 @@
 #include "store/sample_schema.h"
 
 #include "catalogue/field_types.h"
+#include "catalogue/property_keys.h"
 #include "catalogue/templates.h"
 #include "store/schema_database.h"
 #include "store/store_error.h"
@@ -68,11 +69,11 @@ void setProperty(FieldDef& field, std::string_view key, Value value) {
 }
 
 void directLink(FieldDef& field, std::string table, std::string displayField) {
-    setProperty(field, "zrDirect.Table", std::move(table));
-    setProperty(field, "zrDirect.ID", "zrID");
-    setProperty(field, "zrDirect.Disp", displayField);
-    setProperty(field, "zrDirect.Disp123", displayField);
-    setProperty(field, "zrDirect.OB", std::move(displayField));
+    setProperty(field, catalogue::kDirectTable, std::move(table));
+    setProperty(field, catalogue::kDirectId, "zrID");
+    setProperty(field, catalogue::kDirectDisp, displayField);
+    setProperty(field, catalogue::kDirectDispCopy, displayField);
+    setProperty(field, catalogue::kDirectOrderBy, std::move(displayField));
 }
 
 TableDefinition table(std::string name, std::string displayName, std::int32_t tableType) {
@@ -141,34 +142,35 @@ void writeLinkFields(FieldDefs& fields) {
         addField(fields, "Customer", type::Link, "Customer", "The customer who placed the order.");
     customer.SetValidation(kRequiredEnforced);
     directLink(customer, "Customers", "DisplayName");
-    setProperty(customer, "zrDirect.Select", "SELECT zrID, DisplayName FROM Customers");
-    setProperty(customer, "Lnk.Parent", true);
+    setProperty(customer, catalogue::kDirectSelect, "SELECT zrID, DisplayName FROM Customers");
+    setProperty(customer, catalogue::kLinkParent, true);
     english(customer);
     german(customer, "Kunde", "Der Kunde, der bestellt hat.");
 
     FieldDef& handlers =
         addField(fields, "HandledBy", type::MultipleLink, "Handled by", "Employees on the order.");
     directLink(handlers, "Employees", "DisplayName");
-    setProperty(handlers, "zrDirect.OT", std::int32_t{12});
-    setProperty(handlers, "zrDirect.Q", "Active = 1");
-    setProperty(handlers, "zrDirect.S", std::int32_t{1});
+    setProperty(handlers, catalogue::kDirectObjectType, std::int32_t{12});
+    setProperty(handlers, catalogue::kDirectCoreFilter, "Active = 1");
+    setProperty(handlers, catalogue::kDirectStatus, std::int32_t{1});
 
     FieldDef& supplier = addField(fields, "Supplier", type::LinkAdo, "Supplier");
-    setProperty(supplier, "ADO.ConnStr", "Provider=SQLOLEDB;Data Source=erp;Initial Catalog=Buy");
-    setProperty(supplier, "ADO.Table", "Suppliers");
-    setProperty(supplier, "ADO.IDField", "SupplierID");
-    setProperty(supplier, "ADO.DispField", "CompanyName");
-    setProperty(supplier, "ADO.SQL", "SELECT SupplierID, CompanyName FROM Suppliers");
+    setProperty(supplier, catalogue::kAdoConnStr,
+                "Provider=SQLOLEDB;Data Source=erp;Initial Catalog=Buy");
+    setProperty(supplier, catalogue::kAdoTable, "Suppliers");
+    setProperty(supplier, catalogue::kAdoIdField, "SupplierID");
+    setProperty(supplier, catalogue::kAdoDispField, "CompanyName");
+    setProperty(supplier, catalogue::kAdoSql, "SELECT SupplierID, CompanyName FROM Suppliers");
 
     FieldDef& address = addField(fields, "DeliveryAddress", type::SubLink, "Delivery address");
-    setProperty(address, "SubLnk.Lnk", "Customer");
-    setProperty(address, "SubLnk.Tbl", "Addresses");
-    setProperty(address, "SubLnk.PID", "CustomerID");
-    setProperty(address, "SubLnk.DN", "Street");
-    setProperty(address, "SubLnk.OB", "City");
+    setProperty(address, catalogue::kSubLinkField, "Customer");
+    setProperty(address, catalogue::kSubLinkTable, "Addresses");
+    setProperty(address, catalogue::kSubLinkParentId, "CustomerID");
+    setProperty(address, catalogue::kSubLinkDisplayName, "Street");
+    setProperty(address, catalogue::kSubLinkOrderBy, "City");
 
     FieldDef& owner = addField(fields, "Owner", type::DirectUser, "Owner");
-    setProperty(owner, "zrDirect.ConnStr", "LDAP://corp.example");
+    setProperty(owner, catalogue::kDirectConnStr, "LDAP://corp.example");
 }
 
 void writeListFields(FieldDefs& fields) {
@@ -205,24 +207,24 @@ void writeMainTable(SchemaDatabase& database, std::int32_t orderLinesId) {
     writeLinkFields(fields);
 
     FieldDef& lines = addField(fields, "Lines", type::SubTable, "Order lines");
-    setProperty(lines, "zrDirect.ST", orderLinesId);
-    setProperty(lines, "zrDirect.STF", std::int32_t{1});
+    setProperty(lines, catalogue::kDirectSubTable, orderLinesId);
+    setProperty(lines, catalogue::kDirectSubTableField, std::int32_t{1});
 
     writeListFields(fields);
     addField(fields, "Invoice", kFileLinkPicture, "Scanned invoice");
 
     FieldDef& card = addField(fields, "CardNumber", type::VarCharEncrypted, "Card number");
     card.SetSize(32);
-    setProperty(card, "Encyrpt.Type", std::int32_t{1});
-    setProperty(card, "Encyrpt.KeyLen", std::int32_t{256});
+    setProperty(card, catalogue::kEncryptType, std::int32_t{1});
+    setProperty(card, catalogue::kEncryptKeyLen, std::int32_t{256});
 
     addField(fields, "zrTenant", type::Tenant, "Tenant");
     addField(fields, "zrCreatedBy", kCreatedBy, "Created by");
     addField(fields, "zrDateCreated", kDateCreated, "Created on");
     FieldDef& signature = addField(fields, "zrSignature", type::Signature, "Signature");
-    setProperty(signature, "Sign.Type", std::int32_t{1});
-    setProperty(signature, "Sign.KeyLen", std::int32_t{384});
-    setProperty(signature, "Sign.Flds", "OrderNumber,OrderDate,Customer,Total");
+    setProperty(signature, catalogue::kSignType, std::int32_t{1});
+    setProperty(signature, catalogue::kSignKeyLen, std::int32_t{384});
+    setProperty(signature, catalogue::kSignFields, "OrderNumber,OrderDate,Customer,Total");
     save(database, orders);
 }
 

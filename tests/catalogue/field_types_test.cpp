@@ -41,6 +41,15 @@ TEST(FieldTypes, EveryOtherCodeIsUnknown) {
         EXPECT_EQ(typeName(code), "Unknown") << code;
 }
 
+// The trait table is looked up by code, and a page without a caption would add an empty tab.
+TEST(FieldTypes, EveryTypeIsFoundByItsCodeAndEveryPageHasACaption) {
+    for (const TypeTraits& traits : typeTraits()) {
+        EXPECT_EQ(findType(traits.code), &traits) << traits.code;
+        EXPECT_FALSE(traits.name.empty()) << traits.code;
+        EXPECT_EQ(tabCaption(traits.page).empty(), traits.page == TypePage::None) << traits.code;
+    }
+}
+
 TEST(Validation, OffersThreeLevelsAndNamesNoOther) {
     EXPECT_EQ(snapshot(validationLevels()), "Not Required=0|Required=1|Required Enforced=2");
     EXPECT_EQ(validationName(2), "Required Enforced");

@@ -3,7 +3,9 @@
 #include "base/text.h"
 #include "catalogue/field_types.h"
 #include "catalogue/security.h"
+#include "catalogue/setting_boxes.h"
 #include "catalogue/validation.h"
+#include "control/setting_values.h"
 #include "fields/field_utility.h"
 
 #include <algorithm>
@@ -42,28 +44,6 @@ private:
     std::string m_message;
 };
 
-struct TypePage {
-    std::string_view caption;
-    std::int32_t panel;
-};
-
-// The second tab that loading a field of the type builds, and the panel it shows.
-std::optional<TypePage> typePage(std::int32_t code) {
-    if (code == type::Signature)
-        return TypePage{"Signature", 6};
-    if (catalogue::isEncryptedType(code))
-        return TypePage{"Encryption", 7};
-    if (code == type::SubTable)
-        return TypePage{"Sub Table", 4};
-    if (code == type::SubLink)
-        return TypePage{"Sub Link", 5};
-    if (catalogue::isDirectLinkType(code))
-        return TypePage{"Link Properties", 2};
-    if (catalogue::isAdoLinkType(code) || catalogue::isDirectoryType(code))
-        return TypePage{"Database", 3};
-    return std::nullopt;
-}
-
 // The name box corrects every change of its text, also the one that shows a field: a stored name
 // that begins with digits is shown without them (and leaving the box then renames the field).
 std::string shownName(std::string name) {
@@ -73,14 +53,6 @@ std::string shownName(std::string name) {
             return name;
         name = std::string(trimmed.substr(1));
     }
-}
-
-std::string stored(const FieldDef& field, std::string_view key, Value byDefault = Value("")) {
-    return field.Properties().GetValue(key, std::move(byDefault)).toText();
-}
-
-std::int32_t storedNumber(const FieldDef& field, std::string_view key, Value byDefault) {
-    return FieldUtility::ToLong(field.Properties().GetValue(key, std::move(byDefault)));
 }
 
 // A pick list shows the entry with the stored item data, or none when no entry has it.
@@ -135,60 +107,86 @@ public:
         checkSelection(m_verdict, d.cboValidation, m_field.Validation());
     }
 
+    // Every setting box of the type's page shows its stored setting or its read default.
     void typePage() {
-        const auto& d = m_designer;
-        const std::int32_t code = m_field.FieldType();
-        if (catalogue::isEncryptedType(code)) {
-            const std::int32_t cipher = storedNumber(m_field, "Encyrpt.Type", 1);
-            checkSelection(m_verdict, d.cboEncryption, cipher);
-            checkEntries(m_verdict, d.cboEncryptionKeyLen, catalogue::cipherKeyLengths(cipher));
-            checkSelection(m_verdict, d.cboEncryptionKeyLen,
-                           storedNumber(m_field, "Encyrpt.KeyLen", 0));
-        } else if (code == type::Signature) {
-            const std::int32_t hash = storedNumber(m_field, "Sign.Type", 1);
-            checkSelection(m_verdict, d.cboSignatureHash, hash);
-            checkEntries(m_verdict, d.cboSignatureKeyLen, catalogue::hashKeyLengths(hash));
-            checkSelection(m_verdict, d.cboSignatureKeyLen,
-                           storedNumber(m_field, "Sign.KeyLen", 0));
-            shows(d.txtSignatureFields, stored(m_field, "Sign.Flds"));
-        } else if (code == type::SubTable) {
-            shows(d.txtSubTable, stored(m_field, "zrDirect.ST", 0));
-            shows(d.txtSubTableFieldID, stored(m_field, "zrDirect.STF", 0));
-            if (!m_pending.contains("cboSubTable"))
-                checkSelection(m_verdict, d.cboSubTable, storedNumber(m_field, "zrDirect.ST", 0));
-        } else if (catalogue::isDirectoryType(code)) {
-            shows(d.txtConnStr, stored(m_field, "zrDirect.ConnStr"));
-        } else if (catalogue::isAdoLinkType(code)) {
-            shows(d.txtConnStr, stored(m_field, "ADO.ConnStr"));
-            shows(d.txtTable, stored(m_field, "ADO.Table"));
-            // Written as "ADO.ID", "ADO.Disp", "ADO.Select": these three are pending once typed.
-            shows(d.txtIDField, stored(m_field, "ADO.IDField"));
-            shows(d.txtDispField, stored(m_field, "ADO.DispField"));
-            shows(d.txtSQL, stored(m_field, "ADO.SQL"));
-        } else if (catalogue::isDirectLinkType(code)) {
-            directLink();
-        } else if (code == type::SubLink) {
-            subLink();
+        const PropertyStore& stored = m_field.Properties();
+        for (const catalogue::SettingBox& row : catalogue::settingBoxes()) {
+            if (row.shownKey.empty() || !row.types(m_field.FieldType()))
+                continue;
+            const view::Control& box = m_designer.settingControl(row);
+            if (m_pending.contains(box.name()))
+                continue;
+            const auto* list = dynamic_cast<const view::ComboBox*>(&box);
+            switch (row.shown) {
+            case catalogue::Shown::Text:
+            case catalogue::Shown::Number:
+                m_verdict.equal(list ? list->text()
+                                     : dynamic_cast<const view::TextBox&>(box).text(),
+                                control::shownText(row, stored), box.name());
+                break;
+            case catalogue::Shown::ItemData:
+                checkSelection(m_verdict, *list, control::shownNumber(row, stored));
+                break;
+            case catalogue::Shown::EntryText:
+                checkEntryText(*list, control::shownText(row, stored));
+                break;
+            case catalogue::Shown::Checked:
+                // True is kept as a Boolean; a stored -1 reads as True as well.
+                m_verdict.equal(dynamic_cast<const view::CheckBox&>(box).value(),
+                                control::shownNumber(row, stored) == -1 ? 1 : 0, box.name());
+                break;
+            }
+            checkFill(row, *list);
         }
+        if (catalogue::isDirectLinkType(m_field.FieldType()))
+            linkControls();
     }
 
 private:
-    void directLink() {
+    std::int32_t shownNumberOf(std::string_view box) const {
+        return control::shownNumber(catalogue::settingOf(box), m_field.Properties());
+    }
+
+    void checkFill(const catalogue::SettingBox& row, const view::ComboBox& list) {
+        using catalogue::Fill;
+        if (row.fill == Fill::CipherKeyLengths)
+            checkEntries(m_verdict, list,
+                         catalogue::cipherKeyLengths(shownNumberOf("cboEncryption")));
+        if (row.fill == Fill::HashKeyLengths)
+            checkEntries(m_verdict, list,
+                         catalogue::hashKeyLengths(shownNumberOf("cboSignatureHash")));
+        if (row.fill != Fill::LinkFields)
+            return;
+        std::vector<std::string> shown;
+        for (std::int32_t i = 0; i < list.listCount(); ++i)
+            shown.push_back(list.list(i));
+        std::vector<std::string> links;
+        if (const FieldDefs* fields = m_field.collection())
+            for (const auto& each : *fields)
+                if (each->FieldType() == type::Link)
+                    links.push_back(each->Name());
+        std::sort(shown.begin(), shown.end());
+        std::sort(links.begin(), links.end());
+        m_verdict.require(shown == links, list.name() + " lists the collection's \"Link\" fields");
+    }
+
+    // The entry of that text, letter case ignored, is selected; none when the list has none.
+    void checkEntryText(const view::ComboBox& list, const std::string& text) {
+        std::int32_t match = -1;
+        for (std::int32_t i = 0; i < list.listCount() && match < 0; ++i)
+            if (equalsIgnoringCase(list.list(i), text))
+                match = i;
+        const std::int32_t index = list.listIndex();
+        if (match < 0)
+            m_verdict.equal(index, -1, list.name() + " selection for \"" + text + "\"");
+        else
+            m_verdict.require(index >= 0 && equalsIgnoringCase(list.list(index), text),
+                              list.name() + " selects \"" + text + "\"");
+    }
+
+    // The page shows the object-link or the table-link controls, as the box's number says.
+    void linkControls() {
         const auto& d = m_designer;
-        shows(d.txtObjectType, stored(m_field, "zrDirect.OT"));
-        shows(d.txtCoreFilter, stored(m_field, "zrDirect.Q"));
-        shows(d.txtAdditionalFilter, stored(m_field, "zrDirect.IQ"));
-        shows(d.txtStatus, stored(m_field, "zrDirect.S"));
-        shows(d.txtOrderField, stored(m_field, "zrDirect.OB", "DisplayName"));
-        shows(d.txtLinkDisplayField, stored(m_field, "zrDirect.Disp", "DisplayName"));
-        shows(d.txtLinkIDField, stored(m_field, "zrDirect.ID", "zrID"));
-        shows(d.txtLinkSelect, stored(m_field, "zrDirect.Select"));
-        shows(d.txtLinkTableName, stored(m_field, "zrDirect.Table"));
-        shows(d.cboLinkTableName, stored(m_field, "zrDirect.Table"));
-        // True is kept as a Boolean; a stored -1 reads as True as well.
-        m_verdict.equal(d.chkLinkParent.value(),
-                        storedNumber(m_field, "Lnk.Parent", false) == -1 ? 1 : 0, "chkLinkParent");
-        // The page shows the object-link or the table-link controls, as the box's number says.
         const bool toObjects = FieldUtility::ToLong(d.txtObjectType.text()) != 0;
         using Controls = std::initializer_list<const view::Control*>;
         for (const view::Control* control :
@@ -197,37 +195,6 @@ private:
         for (const view::Control* control :
              Controls{&d.txtLinkIDField, &d.txtLinkDisplayField, &d.txtLinkSelect})
             m_verdict.equal(control->visible(), !toObjects, control->name() + " visible");
-    }
-
-    void subLink() {
-        const auto& d = m_designer;
-        std::vector<std::string> shown;
-        for (std::int32_t i = 0; i < d.cboLinkFields.listCount(); ++i)
-            shown.push_back(d.cboLinkFields.list(i));
-        std::vector<std::string> links;
-        const FieldDefs* fields = m_field.collection();
-        if (fields)
-            for (const auto& each : *fields)
-                if (each->FieldType() == type::Link)
-                    links.push_back(each->Name());
-        std::sort(shown.begin(), shown.end());
-        std::sort(links.begin(), links.end());
-        m_verdict.require(shown == links, "cboLinkFields lists the collection's \"Link\" fields");
-        const std::string linkField = stored(m_field, "SubLnk.Lnk");
-        const auto match = std::find_if(shown.begin(), shown.end(), [&](const std::string& name) {
-            return equalsIgnoringCase(name, linkField);
-        });
-        const std::int32_t index = d.cboLinkFields.listIndex();
-        if (match == shown.end())
-            m_verdict.equal(index, -1, "cboLinkFields selection for \"" + linkField + "\"");
-        else
-            m_verdict.require(index >= 0 &&
-                                  equalsIgnoringCase(d.cboLinkFields.list(index), linkField),
-                              "cboLinkFields selects \"" + linkField + "\"");
-        shows(d.txtSubLinkTable, stored(m_field, "SubLnk.Tbl"));
-        shows(d.txtSubLinkPIDField, stored(m_field, "SubLnk.PID"));
-        shows(d.txtSubLinkDisplayName, stored(m_field, "SubLnk.DN"));
-        shows(d.txtSubLinkOrderBy, stored(m_field, "SubLnk.OB"));
     }
 
     Verdict& m_verdict;
@@ -292,11 +259,14 @@ std::optional<std::string> checkDesigner(const control::Morvel& designer, const 
     const view::TabStrip& tabs = designer.TabStrip;
     verdict.require(tabs.count() >= 1 && tabs.count() <= 2, "one or two tabs");
     verdict.equal(tabs.caption(1), std::string("Properties"), "tab 1");
-    const std::optional<TypePage> page = current ? typePage(current->FieldType()) : std::nullopt;
-    verdict.equal(tabs.count(), page ? 2 : 1, "number of tabs");
-    if (page && tabs.count() == 2)
-        verdict.equal(tabs.caption(2), std::string(page->caption), "tab 2");
-    const std::int32_t panel = tabs.selectedIndex() == 1 ? 1 : (page ? page->panel : 0);
+    using catalogue::TypePage;
+    const TypePage page = current ? catalogue::typePage(current->FieldType()) : TypePage::None;
+    const bool hasPage = page != TypePage::None;
+    verdict.equal(tabs.count(), hasPage ? 2 : 1, "number of tabs");
+    if (hasPage && tabs.count() == 2)
+        verdict.equal(tabs.caption(2), std::string(catalogue::tabCaption(page)), "tab 2");
+    const std::int32_t panel =
+        tabs.selectedIndex() == 1 ? 1 : (hasPage ? static_cast<std::int32_t>(page) : 0);
     for (std::int32_t i = 1; i <= control::PanelArray::kCount; ++i)
         verdict.equal(designer.pic(i).visible(), i == panel,
                       "pic(" + std::to_string(i) + ") visible");
@@ -311,7 +281,7 @@ std::optional<std::string> checkDesigner(const control::Morvel& designer, const 
     }
     PanelCheck check(verdict, designer, *current, pending);
     check.general();
-    if (page)
+    if (hasPage)
         check.typePage();
     return verdict.result();
 }

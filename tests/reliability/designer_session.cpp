@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "base/handler_policy.h"
+#include "catalogue/property_keys.h"
 #include "dialogs/frm_edit_list.h"
 #include "dialogs/frm_locale.h"
 #include "fields/field_utility.h"
@@ -391,8 +392,9 @@ void DesignerSession::watchWrites() {
             m_firstWrite = std::string(memberName(change.member)) + " " + change.key + " = \"" +
                            change.newValue.toText() + "\"";
         m_written.push_back(&change.field);
-        static const std::set<std::string> kKeysStoredOnLeave{
-            "SubLnk.Tbl", "SubLnk.PID", "SubLnk.DN", "SubLnk.OB", "Sign.Flds"};
+        using namespace catalogue;
+        static const std::set<std::string_view> kKeysStoredOnLeave{
+            kSubLinkTable, kSubLinkParentId, kSubLinkDisplayName, kSubLinkOrderBy, kSignFields};
         if (change.member == FieldMember::Name || change.member == FieldMember::CtrlEdit ||
             change.member == FieldMember::CtrlReadOnly ||
             (change.member == FieldMember::Properties && kKeysStoredOnLeave.contains(change.key)))

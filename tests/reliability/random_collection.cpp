@@ -2,24 +2,30 @@
 
 #include "base/error.h"
 #include "catalogue/field_types.h"
+#include "catalogue/setting_boxes.h"
 
-#include <array>
+#include <algorithm>
 #include <string_view>
+#include <vector>
 
 namespace morvel::reliability {
 
 namespace {
 
 // Every key the panel reads or the handlers write, so that loads meet stored values of every
-// kind and edits meet keys that exist already.
-constexpr std::array<std::string_view, 33> kPropertyKeys{
-    "Encyrpt.Type",   "Encyrpt.KeyLen", "Sign.Type",        "Sign.KeyLen",   "Sign.Flds",
-    "zrDirect.ST",    "zrDirect.STF",   "zrDirect.ConnStr", "ADO.ConnStr",   "ADO.Table",
-    "ADO.ID",         "ADO.IDField",    "ADO.Disp",         "ADO.DispField", "ADO.Select",
-    "ADO.SQL",        "SubLnk.Lnk",     "SubLnk.Tbl",       "SubLnk.PID",    "SubLnk.DN",
-    "SubLnk.OB",      "zrDirect.OT",    "zrDirect.Q",       "zrDirect.IQ",   "zrDirect.S",
-    "zrDirect.OB",    "zrDirect.Disp",  "zrDirect.Disp123", "zrDirect.ID",   "zrDirect.Select",
-    "zrDirect.Table", "Lnk.Parent",     "LDN1036"};
+// kind and edits meet keys that exist already; and one key that no box knows.
+const std::vector<std::string_view>& propertyKeys() {
+    static const std::vector<std::string_view> keys = [] {
+        std::vector<std::string_view> all;
+        for (const catalogue::SettingBox& row : catalogue::settingBoxes())
+            for (std::string_view key : {row.key, row.shownKey})
+                if (!key.empty() && std::find(all.begin(), all.end(), key) == all.end())
+                    all.push_back(key);
+        all.push_back("LDN1036");
+        return all;
+    }();
+    return keys;
+}
 
 Value randomValue(RandomSource& random) {
     switch (random.between(0, 5)) {
@@ -70,7 +76,7 @@ std::shared_ptr<FieldDef> randomField(RandomSource& random) {
 
     const std::int32_t settings = random.between(0, 8);
     for (std::int32_t i = 0; i < settings; ++i)
-        field->Properties().SetValue(kPropertyKeys[random.index(kPropertyKeys.size())],
+        field->Properties().SetValue(propertyKeys()[random.index(propertyKeys().size())],
                                      randomValue(random), true);
 
     if (catalogue::isListType(field->FieldType()) || random.chance(0.05)) {
