@@ -1,6 +1,7 @@
 #include "command_line.h"
 
 #include "designer_window.h"
+#include "qt/qt_prompter.h"
 #include "screenshots.h"
 #include "store/sample_schema.h"
 
@@ -8,7 +9,6 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QStandardPaths>
 #include <QTextStream>
 #include <filesystem>
@@ -22,7 +22,8 @@ namespace {
 int fail(int code, const QString& message, bool interactive) {
     QTextStream(stderr) << QCoreApplication::applicationName() << ": " << message << "\n";
     if (interactive)
-        QMessageBox::critical(nullptr, QApplication::applicationDisplayName(), message);
+        qt::QtPrompter().messageBox(
+            {message.toStdString(), view::MsgBoxButtons::OK, view::MsgBoxIcon::Exclamation, ""});
     return code;
 }
 

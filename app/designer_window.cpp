@@ -127,6 +127,10 @@ void DesignerWindow::buildActions() {
 }
 
 void DesignerWindow::buildStatusBar() {
+    // A note stays until the next one: hovering a menu must not wipe what the start said.
+    m_note = new QLabel(this);
+    m_note->setObjectName("note");
+    statusBar()->addWidget(m_note, 1);
     m_unlockNote = new QLabel(tr("Existing fields can be changed"), this);
     m_unlockNote->setObjectName("unlockNote");
     m_unlockNote->setStyleSheet("QLabel { color: #a33; font-weight: bold; }");
@@ -139,7 +143,7 @@ void DesignerWindow::buildStatusBar() {
 }
 
 void DesignerWindow::showNote(const QString& text) {
-    statusBar()->showMessage(text);
+    m_note->setText(text);
 }
 
 void DesignerWindow::fillTablePicker() {

@@ -82,6 +82,7 @@ private:
     QAction* m_revert = nullptr;
     QAction* m_removeField = nullptr;
     QAction* m_allowChanges = nullptr;
+    QLabel* m_note = nullptr;
     QLabel* m_unlockNote = nullptr;
     QLabel* m_readOnlyNote = nullptr;
     Connections m_sessionWatch;

@@ -15,7 +15,7 @@ std::string whatToDo(StoreFailure failure) {
     case StoreFailure::ReadOnly:
         return "Open a copy of the database that can be written to keep them.";
     case StoreFailure::CannotWrite:
-        return "Make the folder writable, then save again.";
+        return "Make sure the folder can be written, then save again.";
     case StoreFailure::Other:
         break;
     }
@@ -130,7 +130,9 @@ bool TableSession::saveAsNew() {
         return false;
     std::string name = m_table.info.name + "Copy";
     for (;;) {
-        name = m_prompter.inputBox({"The name of the new table:", "Save as New Table", name});
+        name = m_prompter.inputBox({"Your changes are saved as a new table of this name; " +
+                                        quotedName() + " stays as it was saved.",
+                                    "Save as New Table", name});
         if (name.empty())
             return false;
         TableDefinition copy{m_table.info, m_table.fields};

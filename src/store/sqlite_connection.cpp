@@ -59,6 +59,9 @@ void SqliteConnection::fail(int rc, std::string_view action) const {
         throw StoreError(file + " is busy: another program is writing to it. Try again.",
                          StoreFailure::Busy);
     case SQLITE_READONLY:
+        // A writable file in a folder that cannot be written: the journal cannot be made.
+        if (rc == SQLITE_READONLY_DIRECTORY || (action != "open" && !folderWritable()))
+            throw StoreError(cannotWriteBeside(), StoreFailure::CannotWrite);
         throw StoreError(file + " cannot be written: it is read-only.", StoreFailure::ReadOnly);
     case SQLITE_CANTOPEN:
         if (action != "open")
@@ -72,12 +75,19 @@ void SqliteConnection::fail(int rc, std::string_view action) const {
     }
 }
 
+std::filesystem::path SqliteConnection::folder() const {
+    return m_path.has_parent_path() ? m_path.parent_path() : std::filesystem::path(".");
+}
+
+bool SqliteConnection::folderWritable() const {
+    return ::access(folder().c_str(), W_OK) == 0;
+}
+
 std::string SqliteConnection::cannotWriteBeside() const {
     // The file itself is open: what failed is the journal that a write keeps beside it.
-    const std::filesystem::path folder = m_path.has_parent_path() ? m_path.parent_path() : ".";
     const std::string file = "\"" + m_path.filename().string() + "\"";
-    if (::access(folder.c_str(), W_OK) != 0)
-        return "The folder \"" + folder.string() + "\" cannot be written, so " + file +
+    if (!folderWritable())
+        return "The folder \"" + folder().string() + "\" cannot be written, so " + file +
                " in it cannot be saved (a save keeps a journal file beside the database).";
     return "The journal file \"" + m_path.filename().string() + "-journal\" could not be made " +
            "beside " + file + ", so it cannot be saved.";

@@ -34,6 +34,8 @@ public:
 private:
     // Why a write of the open file could not make its journal: the folder or the journal path.
     std::string cannotWriteBeside() const;
+    std::filesystem::path folder() const;
+    bool folderWritable() const;
 
     std::filesystem::path m_path;
     sqlite3* m_db = nullptr;
