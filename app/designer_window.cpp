@@ -1,60 +1,112 @@
 #include "designer_window.h"
 
-#include "base/error.h"
 #include "qt/error_boundary.h"
-#include "store/store_error.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
+#include <QStatusBar>
 #include <QToolBar>
+#include <QTreeView>
 
 namespace morvel::app {
 
 namespace {
+
 QString toQString(const std::string& text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+
+constexpr const char* kReadOnlyReason =
+    "The database file cannot be written, so changes cannot be saved.";
+
 } // namespace
 
-DesignerWindow::DesignerWindow(std::shared_ptr<SchemaDatabase> database, QWidget* parent)
+DesignerWindow::DesignerWindow(std::shared_ptr<SchemaDatabase> database, view::Prompter* prompter,
+                               QWidget* parent)
     : QMainWindow(parent)
-    , m_database(std::move(database))
-    , m_designer(new qt::MorvelWidget(this)) {
+    , m_ownPrompter(prompter ? nullptr : std::make_unique<qt::QtPrompter>(this))
+    , m_prompter(prompter ? *prompter : *m_ownPrompter)
+    , m_session(std::move(database), m_prompter)
+    , m_designer(new qt::MorvelWidget(this))
+    , m_fields(m_designer->morvel(), m_prompter) {
     setCentralWidget(m_designer);
-    m_designer->setDatabase(m_database);
-    m_designer->morvel().UserControl_ReadProperties(m_settings);
+    m_designer->setDatabase(m_session.sharedDatabase());
+    m_session.setCommitEdit([this] { m_designer->commitEdit(); });
+    m_sessionWatch += m_session.loaded.connect([this] { tableLoaded(); });
+    m_sessionWatch += m_session.stateChanged.connect([this] { stateChanged(); });
     buildActions();
+    buildStatusBar();
     fillTablePicker();
     connect(m_designer, &qt::MorvelWidget::selectedFieldChanged, this,
             [this](const std::shared_ptr<FieldDef>& field) { m_removeField->setEnabled(!!field); });
-    showTitle();
+    stateChanged();
 }
 
-DesignerWindow::~DesignerWindow() = default;
+DesignerWindow::~DesignerWindow() {
+    m_sessionWatch.clear();
+}
+
+QTreeView& DesignerWindow::fieldList() const {
+    return *m_designer->binding().widgetAs<QTreeView>(m_designer->morvel().lst);
+}
 
 void DesignerWindow::buildActions() {
-    QMenu* file = menuBar()->addMenu(tr("&Table"));
-    QAction* save = file->addAction(tr("&Save"), this, [this] { this->save(); });
-    save->setShortcut(QKeySequence::Save);
-    file->addAction(tr("&Revert"), this, &DesignerWindow::revert);
-    file->addSeparator();
-    file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+    QMenu* table = menuBar()->addMenu(tr("&Table"));
+    m_save = table->addAction(tr("&Save"), QKeySequence::Save, this, [this] { save(); });
+    m_saveAsNew = table->addAction(tr("Save as &New Table..."),
+                                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
+                                   [this] { reading([&] { m_session.saveAsNew(); }); });
+    m_revert = table->addAction(tr("&Revert to Saved"), QKeySequence(Qt::CTRL | Qt::Key_R), this,
+                                [this] { reading([&] { m_session.reload(); }); });
+    table->addSeparator();
+    table->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 
-    QMenu* fields = menuBar()->addMenu(tr("&Fields"));
-    QAction* add = fields->addAction(tr("&Add field"), this, &DesignerWindow::addField);
-    add->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
-    m_removeField = fields->addAction(tr("&Remove field"), this, &DesignerWindow::removeField);
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    // The same as pressing the designer's Find buttons, whatever has the focus in the window.
+    auto pressButton = [this](view::Button& button) {
+        return [this, &button] {
+            if (auto* widget = m_designer->binding().widgetAs<QAbstractButton>(button))
+                widget->click();
+        };
+    };
+    control::Morvel& morvel = m_designer->morvel();
+    QAction* find =
+        edit->addAction(tr("&Find..."), QKeySequence::Find, this, pressButton(morvel.cmdFind));
+    QAction* findNext = edit->addAction(tr("Find &Next"), QKeySequence(Qt::Key_F3), this,
+                                        pressButton(morvel.cmdFindNext));
+    // The designer's own shortcuts for these keys would make each key ambiguous, and neither
+    // would run.
+    for (QShortcut* shortcut : m_designer->findChildren<QShortcut*>())
+        if (shortcut->key() == find->shortcut() || shortcut->key() == findNext->shortcut())
+            shortcut->setEnabled(false);
+
+    QMenu* fields = menuBar()->addMenu(tr("F&ields"));
+    QAction* add = fields->addAction(tr("&Add Field"), QKeySequence(Qt::CTRL | Qt::Key_N), this,
+                                     [this] { qt::guarded(this, [&] { m_fields.newField(); }); });
+    m_removeField =
+        fields->addAction(tr("&Remove Field..."), QKeySequence(Qt::CTRL | Qt::Key_Delete), this,
+                          &DesignerWindow::removeField);
     fields->addSeparator();
-    m_allowChanges = fields->addAction(tr("Allow changes to &existing fields"));
+    m_allowChanges = fields->addAction(tr("Allow Changes to &Existing Fields"));
+    m_allowChanges->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E));
     m_allowChanges->setCheckable(true);
-    m_allowChanges->setChecked(m_designer->canModifyExisting());
     connect(m_allowChanges, &QAction::toggled, this, &DesignerWindow::allowChangesToggled);
+
+    // Delete removes the selected field only while the field list has the keyboard: in a box it
+    // deletes text, and a combo box must never take it as a removal.
+    auto* deleteInList = new QAction(tr("Remove Field"), &fieldList());
+    deleteInList->setShortcut(QKeySequence::Delete);
+    deleteInList->setShortcutContext(Qt::WidgetShortcut);
+    connect(deleteInList, &QAction::triggered, this, &DesignerWindow::removeField);
+    fieldList().addAction(deleteInList);
 
     QToolBar* bar = addToolBar(tr("Table"));
     bar->setObjectName("tableBar");
@@ -69,20 +121,41 @@ void DesignerWindow::buildActions() {
     bar->addAction(add);
     bar->addAction(m_removeField);
     bar->addSeparator();
-    bar->addAction(save);
+    bar->addAction(m_save);
     bar->addSeparator();
     bar->addAction(m_allowChanges);
+}
+
+void DesignerWindow::buildStatusBar() {
+    // A note stays until the next one: hovering a menu must not wipe what the start said.
+    m_note = new QLabel(this);
+    m_note->setObjectName("note");
+    statusBar()->addWidget(m_note, 1);
+    m_unlockNote = new QLabel(tr("Existing fields can be changed"), this);
+    m_unlockNote->setObjectName("unlockNote");
+    m_unlockNote->setStyleSheet("QLabel { color: #a33; font-weight: bold; }");
+    m_unlockNote->hide();
+    statusBar()->addPermanentWidget(m_unlockNote);
+    m_readOnlyNote = new QLabel(tr("Read only: %1").arg(tr(kReadOnlyReason)), this);
+    m_readOnlyNote->setObjectName("readOnlyNote");
+    m_readOnlyNote->setVisible(m_session.isReadOnly());
+    statusBar()->addPermanentWidget(m_readOnlyNote);
+}
+
+void DesignerWindow::showNote(const QString& text) {
+    m_note->setText(text);
 }
 
 void DesignerWindow::fillTablePicker() {
     const QSignalBlocker blocker(m_tablePicker);
     m_tablePicker->clear();
-    for (const TableInfo& info : m_database->tables())
+    for (const TableInfo& info : m_session.database().tables())
         m_tablePicker->addItem(toQString(info.displayName), toQString(info.name));
+    m_tablePicker->setCurrentIndex(m_tablePicker->findData(toQString(table().info.name)));
 }
 
 QString DesignerWindow::firstTable() const {
-    const std::vector<TableInfo> tables = m_database->tables();
+    const std::vector<TableInfo> tables = m_session.database().tables();
     for (const TableInfo& info : tables)
         if (info.tableType == table_type::kMain)
             return toQString(info.name);
@@ -90,132 +163,91 @@ QString DesignerWindow::firstTable() const {
 }
 
 bool DesignerWindow::openTable(const QString& name) {
-    const std::optional<TableInfo> info = m_database->findTable(name.toStdString());
-    if (!info)
-        return false;
-    load(*info);
-    return true;
+    return m_session.open(name.toStdString());
 }
 
-void DesignerWindow::load(const TableInfo& info) {
-    m_tableWatch.clear();
-    m_table = m_database->load(info.id);
-    m_designer->setFieldDefs(m_table.fields);
-    // Watched from here on, so that showing the table does not count as an edit.
-    auto modified = [this](auto&&...) { setWindowModified(true); };
-    FieldDefs& fields = *m_table.fields;
-    m_tableWatch += fields.changed.connect(modified);
-    m_tableWatch += fields.AfterAdd.connect(modified);
-    m_tableWatch += fields.AfterRemove.connect(modified);
-    setWindowModified(false);
-    const QSignalBlocker blocker(m_tablePicker);
-    m_tablePicker->setCurrentIndex(m_tablePicker->findData(toQString(m_table.info.name)));
-    m_removeField->setEnabled(!!m_designer->selectedField());
-    showTitle();
+template <typename Step> void DesignerWindow::reading(Step&& step) {
+    try {
+        std::forward<Step>(step)();
+    } catch (const Error& error) {
+        m_prompter.messageBox(
+            {error.what(), view::MsgBoxButtons::OK, view::MsgBoxIcon::Critical, ""});
+    }
 }
 
 void DesignerWindow::tablePicked(int index) {
     const QString name = m_tablePicker->itemData(index).toString();
-    if (name == toQString(m_table.info.name))
+    if (name == toQString(table().info.name))
         return;
-    if (!settleUnsavedEdits()) {
-        const QSignalBlocker blocker(m_tablePicker);
-        m_tablePicker->setCurrentIndex(m_tablePicker->findData(toQString(m_table.info.name)));
+    if (!m_session.settleUnsavedEdits()) {
+        fillTablePicker();
         return;
     }
-    try {
-        openTable(name);
-    } catch (const Error& error) {
-        QMessageBox::critical(this, QApplication::applicationDisplayName(),
-                              toQString(error.what()));
-    }
+    reading([&] { m_session.open(name.toStdString()); });
 }
 
-bool DesignerWindow::settleUnsavedEdits() {
-    m_designer->commitEdit();
-    if (!isWindowModified())
-        return true;
-    const auto answer = QMessageBox::question(
-        this, QApplication::applicationDisplayName(),
-        tr("The table \"%1\" has unsaved changes. Save them?")
-            .arg(toQString(m_table.info.displayName)),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    if (answer == QMessageBox::Save)
-        return save();
-    return answer == QMessageBox::Discard;
+void DesignerWindow::tableLoaded() {
+    // Loading the table shown again (Revert, Reload) keeps the person's place in it.
+    const bool again = m_designer->fieldDefs() && m_shownTable == table().info.id;
+    const Place kept = again ? place() : Place{};
+    // The unlock is for the table it was given for, and is never carried over.
+    m_allowChanges->setChecked(false);
+    m_designer->setFieldDefs(table().fields);
+    m_shownTable = table().info.id;
+    if (again)
+        restorePlace(kept);
+    fillTablePicker();
 }
 
-bool DesignerWindow::save() {
-    m_designer->commitEdit();
-    try {
-        m_database->save(m_table);
-    } catch (const ConcurrentSaveError& error) {
-        QMessageBox::warning(this, QApplication::applicationDisplayName(),
-                             toQString(error.what()) + "\n\n" +
-                                 tr("Your changes are still here; nothing was saved."));
-        return false;
-    } catch (const Error& error) {
-        QMessageBox::critical(this, QApplication::applicationDisplayName(),
-                              toQString(error.what()));
-        return false;
-    }
-    setWindowModified(false);
-    return true;
-}
-
-void DesignerWindow::revert() {
-    m_designer->commitEdit();
-    if (isWindowModified() &&
-        QMessageBox::question(this, QApplication::applicationDisplayName(),
-                              tr("Discard the unsaved changes to \"%1\"?")
-                                  .arg(toQString(m_table.info.displayName))) != QMessageBox::Yes)
-        return;
-    try {
-        openTable(toQString(m_table.info.name));
-    } catch (const Error& error) {
-        QMessageBox::critical(this, QApplication::applicationDisplayName(),
-                              toQString(error.what()));
-    }
-}
-
-void DesignerWindow::addField() {
-    if (!m_table.fields)
-        return;
-    FieldDefs& fields = *m_table.fields;
-    std::string name = "NewField";
-    for (int n = 2; fields.find(name); ++n)
-        name = "NewField" + std::to_string(n);
-    // The designer follows the collection: it lists the field, selects it and puts the keyboard
-    // into its name.
-    qt::guarded(this, [&] { fields.Add(name, 200); });
-}
-
-void DesignerWindow::removeField() {
-    const std::shared_ptr<FieldDef> field = m_designer->selectedField();
-    if (!field || !m_table.fields)
-        return;
-    const QString name = toQString(field->Name());
-    if (QMessageBox::question(this, QApplication::applicationDisplayName(),
-                              tr("Remove the field \"%1\"?").arg(name)) != QMessageBox::Yes)
-        return;
-    qt::guarded(this, [&] { m_table.fields->Remove(field->Name()); });
+void DesignerWindow::stateChanged() {
+    const bool open = m_session.isOpen();
+    const bool readOnly = m_session.isReadOnly();
+    setWindowModified(m_session.isModified());
+    m_save->setEnabled(open && !readOnly);
+    m_saveAsNew->setEnabled(open && !readOnly);
+    m_save->setToolTip(
+        readOnly
+            ? tr(kReadOnlyReason)
+            : tr("Save the table (%1)").arg(m_save->shortcut().toString(QKeySequence::NativeText)));
+    m_revert->setEnabled(open);
+    m_removeField->setEnabled(!!m_designer->selectedField());
+    const QString name = open ? toQString(table().info.displayName) : tr("no table");
+    const QString file = toQString(m_session.database().path().filename().string());
+    setWindowTitle(tr("%1[*] - %2%3 - %4")
+                       .arg(name, file, readOnly ? tr(" [read only]") : QString(),
+                            QApplication::applicationDisplayName()));
+    if (open && m_tablePicker->currentData().toString() != toQString(table().info.name))
+        fillTablePicker();
 }
 
 void DesignerWindow::allowChangesToggled(bool allowed) {
     m_designer->setCanModifyExisting(allowed);
-    m_designer->morvel().UserControl_WriteProperties(m_settings);
+    m_unlockNote->setVisible(allowed);
 }
 
-void DesignerWindow::showTitle() {
-    const QString table =
-        m_table.info.name.empty() ? tr("no table") : toQString(m_table.info.displayName);
-    setWindowTitle(tr("%1[*] - %2 - %3")
-                       .arg(table, toQString(m_database->path().filename().string()),
-                            QApplication::applicationDisplayName()));
+void DesignerWindow::removeField() {
+    qt::guarded(this, [&] { m_fields.removeCurrentField(); });
+}
+
+DesignerWindow::Place DesignerWindow::place() const {
+    const std::shared_ptr<FieldDef> field = m_designer->selectedField();
+    return {field ? toQString(field->Name()) : QString(), fieldList().verticalScrollBar()->value()};
+}
+
+void DesignerWindow::restorePlace(const Place& kept) {
+    if (!kept.field.isEmpty())
+        qt::guarded(this, [&] { m_fields.makeCurrent(kept.field.toStdString()); });
+    fieldList().verticalScrollBar()->setValue(kept.scroll);
+}
+
+bool DesignerWindow::save() {
+    bool saved = false;
+    reading([&] { saved = m_session.save(); });
+    return saved;
 }
 
 void DesignerWindow::closeEvent(QCloseEvent* event) {
-    if (settleUnsavedEdits())
+    if (m_session.settleUnsavedEdits())
         event->accept();
     else
         event->ignore();

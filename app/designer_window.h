@@ -1,65 +1,91 @@
 #pragma once
 
-#include "base/signal.h"
+#include "commands/field_commands.h"
 #include "qt/morvel_widget.h"
-#include "settings_property_bag.h"
-#include "store/schema_database.h"
+#include "qt/qt_prompter.h"
+#include "table_session.h"
 
 #include <QMainWindow>
 #include <memory>
 
 class QAction;
 class QComboBox;
+class QLabel;
+class QTreeView;
 
 namespace morvel::app {
 
 // The morvel-designer main window: a table picker, the designer for the picked table's fields,
-// and the commands around it (add and remove a field, save, revert, whether existing fields may
-// be changed). The title carries a modified marker while the table has unsaved edits; closing
-// the window or picking another table then asks whether to save them.
+// and the actions around it. The window only makes the actions and wires them: the table's load,
+// save and reload are the session's, the commands on fields are FieldCommands', and every
+// message box goes through the prompter (real boxes by default, a scripted one in tests).
+//
+// The title carries a modified marker while the table has unsaved edits and says "[read only]"
+// for a database that cannot be written. "Allow changes to existing fields" starts off with every
+// table and is not remembered; the status bar says so while it is on.
 class DesignerWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    explicit DesignerWindow(std::shared_ptr<SchemaDatabase> database, QWidget* parent = nullptr);
+    // prompter null: real message boxes over this window.
+    explicit DesignerWindow(std::shared_ptr<SchemaDatabase> database,
+                            view::Prompter* prompter = nullptr, QWidget* parent = nullptr);
     ~DesignerWindow() override;
 
-    // Opens the table of that name; false when the database has none.
+    // Opens the table of that name; false when the database has none. Throws StoreError when the
+    // table cannot be read.
     bool openTable(const QString& name);
     // The table a person would start with: the first main table, else the first table.
     QString firstTable() const;
+    // Shows a note in the status bar until the next one.
+    void showNote(const QString& text);
 
     qt::MorvelWidget& designer() const { return *m_designer; }
-    const TableDefinition& table() const { return m_table; }
-    bool isModified() const { return isWindowModified(); }
-
-    // Saves the table; on failure the person is told why and the edits stay.
+    QTreeView& fieldList() const;
+    TableSession& session() { return m_session; }
+    const TableDefinition& table() const { return m_session.table(); }
+    bool isModified() const { return m_session.isModified(); }
     bool save();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // Where the person is in the field list: the field shown and the list's scroll position.
+    struct Place {
+        QString field;
+        int scroll = 0;
+    };
+
     void buildActions();
+    void buildStatusBar();
     void fillTablePicker();
     void tablePicked(int index);
-    // Asks Save / Discard / Cancel when there are unsaved edits; false when the person cancels.
-    bool settleUnsavedEdits();
-    void load(const TableInfo& info);
-    void revert();
-    void addField();
-    void removeField();
+    void tableLoaded();
+    void stateChanged();
     void allowChangesToggled(bool allowed);
-    void showTitle();
+    void removeField();
+    Place place() const;
+    void restorePlace(const Place& place);
+    // Runs a step that reads the database; a failure is told, the window stays as it was.
+    template <typename Step> void reading(Step&& step);
 
-    std::shared_ptr<SchemaDatabase> m_database;
-    TableDefinition m_table;
-    SettingsPropertyBag m_settings;
+    std::unique_ptr<qt::QtPrompter> m_ownPrompter;
+    view::Prompter& m_prompter;
+    TableSession m_session;
     qt::MorvelWidget* m_designer;
+    commands::FieldCommands m_fields;
+    std::int32_t m_shownTable = 0;
     QComboBox* m_tablePicker = nullptr;
-    QAction* m_allowChanges = nullptr;
+    QAction* m_save = nullptr;
+    QAction* m_saveAsNew = nullptr;
+    QAction* m_revert = nullptr;
     QAction* m_removeField = nullptr;
-    Connections m_tableWatch;
+    QAction* m_allowChanges = nullptr;
+    QLabel* m_note = nullptr;
+    QLabel* m_unlockNote = nullptr;
+    QLabel* m_readOnlyNote = nullptr;
+    Connections m_sessionWatch;
 };
 
 } // namespace morvel::app

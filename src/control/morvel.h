@@ -147,6 +147,14 @@ public:
     void pic_Resize(std::int32_t Index);
     void ArrangeTypeRow();
 
+    // Host entry points beside the specified interface.
+    //
+    // Makes the field of that name (in any letter case) current as a click on its row would: the
+    // focused box is left (so that what was typed is stored into its own field), the row is
+    // selected and scrolled into view, the selection routine shows the field and the list keeps the
+    // focus. False, changing nothing, when no field of that name is listed.
+    bool SelectFieldByName(std::string_view name);
+
 private:
     void wireEvents();
     // Runs a wired handler as the person's action: its writes form one step of origin Person,

@@ -1,5 +1,6 @@
 #include "qt/qt_prompter.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -61,6 +62,12 @@ view::MsgBoxResult QtPrompter::messageBox(const view::MessageBoxRequest& request
     // question without Cancel, as a person who does not want to go on would.
     if (request.buttons == view::MsgBoxButtons::YesNo)
         box.setEscapeButton(QMessageBox::No);
+    std::size_t next = 0;
+    for (const QMessageBox::StandardButton which :
+         {QMessageBox::Yes, QMessageBox::No, QMessageBox::Ok, QMessageBox::Cancel})
+        if (QAbstractButton* button = box.button(which);
+            button && next < request.buttonTexts.size())
+            button->setText(toQString(request.buttonTexts[next++]));
     switch (box.exec()) {
     case QMessageBox::Yes:
         return view::MsgBoxResult::Yes;

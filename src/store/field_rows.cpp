@@ -24,8 +24,9 @@ public:
         , m_tableName(tableName) {}
 
     [[noreturn]] void fail(const std::string& what) const {
-        throw StoreError("\"" + m_connection.path().string() + "\" is damaged: the table \"" +
-                         std::string(m_tableName) + "\" " + what + ".");
+        throw StoreError("The file \"" + m_connection.path().string() +
+                         "\" is damaged: the table \"" + std::string(m_tableName) + "\" " + what +
+                         ".");
     }
 
     std::int32_t int32(const Statement& row, int column, const char* what) const {

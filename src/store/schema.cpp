@@ -58,7 +58,7 @@ std::int64_t pragmaNumber(SqliteConnection& connection, const char* pragma) {
 }
 
 [[noreturn]] void refuse(const SqliteConnection& connection, const std::string& why) {
-    throw StoreError("\"" + connection.path().string() + "\" " + why);
+    throw StoreError("The file \"" + connection.path().string() + "\" " + why);
 }
 
 } // namespace

@@ -71,9 +71,20 @@ void rollBackHotJournal(const std::filesystem::path& path) {
 
 } // namespace
 
-SchemaDatabase::SchemaDatabase(const std::filesystem::path& path) {
+SchemaDatabase::SchemaDatabase(const std::filesystem::path& path, Access access) {
     std::error_code error;
+    // SQLite would open a folder and fail only at the first read, with a "disk I/O error".
+    if (std::filesystem::is_directory(path, error))
+        throw StoreError("The path \"" + path.string() +
+                         "\" is a folder, not a database file. Give the " +
+                         "name of a file: a missing file is made a new database.");
     const bool exists = std::filesystem::exists(path, error);
+    if (access == Access::ReadOnly) {
+        verifyReadOnly(path);
+        m_connection = std::make_unique<SqliteConnection>(path, SqliteConnection::Mode::ReadOnly);
+        schema::configure(*m_connection);
+        return;
+    }
     // An empty file holds nothing to lose: hosts often create one before handing its name over.
     const bool empty = exists && std::filesystem::is_regular_file(path, error) &&
                        std::filesystem::file_size(path, error) == 0;
@@ -146,12 +157,12 @@ TableDefinition SchemaDatabase::loadInfo(std::optional<TableInfo> info,
 
 void SchemaDatabase::checkName(const TableInfo& info) const {
     if (info.name.empty())
-        throw StoreError("A table needs a name.");
+        throw TableNameError("A table needs a name.");
     Statement query(*m_connection, "SELECT name FROM tables WHERE name = ? AND id <> ?");
     query.bind(1, std::string_view(info.name)).bind(2, std::int64_t{info.id});
     if (query.step())
-        throw StoreError("There is a table named " + inQuotes(query.text(0)) +
-                         " already; choose another name.");
+        throw TableNameError("There is a table named " + inQuotes(query.text(0)) +
+                             " already; choose another name.");
 }
 
 void SchemaDatabase::save(TableDefinition& table) {
@@ -202,7 +213,8 @@ void SchemaDatabase::saveAsNew(TableDefinition& table) {
         .run();
     const std::int64_t id = sqlite3_last_insert_rowid(m_connection->handle());
     if (id > std::numeric_limits<std::int32_t>::max())
-        throw StoreError(inQuotes(path().string()) + " holds as many tables as it can.");
+        throw StoreError("The file " + inQuotes(path().string()) +
+                         " holds as many tables as it can.");
     info.id = static_cast<std::int32_t>(id);
     field_rows::write(*m_connection, info.id, *table.fields);
     transaction.commit();

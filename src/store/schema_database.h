@@ -20,14 +20,18 @@ class SqliteConnection;
 // Opening never writes to a file it refuses: an existing file is first checked through a
 // read-only connection (Morvel's application id, a version this program reads, SQLite's quick
 // check) and only then opened for writing. A missing or empty file becomes a new, empty
-// database. Every failure is a StoreError whose message names the file and the reason.
+// database. A folder is refused as such. Every failure is a StoreError whose message names the file
+// and the reason.
 //
 // Each save is one transaction and checks the revision the definition was loaded at: when
 // someone else saved the table in between, the save throws ConcurrentSaveError and writes
 // nothing.
 class SchemaDatabase final : public Database {
 public:
-    explicit SchemaDatabase(const std::filesystem::path& path);
+    // ReadOnly opens an existing file to look at only: nothing is created, every save fails.
+    enum class Access { ReadWrite, ReadOnly };
+
+    explicit SchemaDatabase(const std::filesystem::path& path, Access access = Access::ReadWrite);
     SchemaDatabase(const SchemaDatabase&) = delete;
     SchemaDatabase& operator=(const SchemaDatabase&) = delete;
     ~SchemaDatabase() override;
@@ -35,7 +39,8 @@ public:
     const std::filesystem::path& path() const;
     // Whether this open made the file (the host may then write the sample tables into it).
     bool created() const { return m_created; }
-    // Whether the file could only be opened for reading (write-protected); saves then fail.
+    // Whether the file could only be opened for reading (write-protected, or opened ReadOnly);
+    // saves then fail.
     bool isReadOnly() const;
 
     // The catalogue, ordered by table name ignoring case.

@@ -3,6 +3,7 @@
 #include "store/store_error.h"
 
 #include <sqlite3.h>
+#include <unistd.h>
 
 namespace morvel {
 
@@ -46,7 +47,7 @@ void SqliteConnection::exec(const char* sql) {
 }
 
 void SqliteConnection::fail(int rc, std::string_view action) const {
-    const std::string file = "\"" + m_path.string() + "\"";
+    const std::string file = "The file \"" + m_path.string() + "\"";
     const std::string detail = m_db ? sqlite3_errmsg(m_db) : sqlite3_errstr(rc);
     switch (rc & 0xff) {
     case SQLITE_NOTADB:
@@ -55,16 +56,41 @@ void SqliteConnection::fail(int rc, std::string_view action) const {
         throw StoreError(file + " is damaged and cannot be used (" + detail + ").");
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        throw StoreError(file + " is busy: another program is writing to it. Try again.");
+        throw StoreError(file + " is busy: another program is writing to it. Try again.",
+                         StoreFailure::Busy);
     case SQLITE_READONLY:
-        throw StoreError(file + " cannot be written: it is read-only (" + detail + ").");
+        // A writable file in a folder that cannot be written: the journal cannot be made.
+        if (rc == SQLITE_READONLY_DIRECTORY || (action != "open" && !folderWritable()))
+            throw StoreError(cannotWriteBeside(), StoreFailure::CannotWrite);
+        throw StoreError(file + " cannot be written: it is read-only.", StoreFailure::ReadOnly);
     case SQLITE_CANTOPEN:
+        if (action != "open")
+            throw StoreError(cannotWriteBeside(), StoreFailure::CannotWrite);
         throw StoreError(file + " cannot be opened (" + detail + ").");
     case SQLITE_FULL:
-        throw StoreError(file + " could not be written: the disk is full.");
+        throw StoreError(file + " could not be written: the disk is full.", StoreFailure::DiskFull);
     default:
-        throw StoreError("Could not " + std::string(action) + " " + file + " (" + detail + ").");
+        throw StoreError("Could not " + std::string(action) + " the file \"" + m_path.string() +
+                         "\" (" + detail + ").");
     }
+}
+
+std::filesystem::path SqliteConnection::folder() const {
+    return m_path.has_parent_path() ? m_path.parent_path() : std::filesystem::path(".");
+}
+
+bool SqliteConnection::folderWritable() const {
+    return ::access(folder().c_str(), W_OK) == 0;
+}
+
+std::string SqliteConnection::cannotWriteBeside() const {
+    // The file itself is open: what failed is the journal that a write keeps beside it.
+    const std::string file = "\"" + m_path.filename().string() + "\"";
+    if (!folderWritable())
+        return "The folder \"" + folder().string() + "\" cannot be written, so " + file +
+               " in it cannot be saved (a save keeps a journal file beside the database).";
+    return "The journal file \"" + m_path.filename().string() + "-journal\" could not be made " +
+           "beside " + file + ", so it cannot be saved.";
 }
 
 } // namespace morvel

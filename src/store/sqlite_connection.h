@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 struct sqlite3;
@@ -31,6 +32,11 @@ public:
     [[noreturn]] void fail(int rc, std::string_view action) const;
 
 private:
+    // Why a write of the open file could not make its journal: the folder or the journal path.
+    std::string cannotWriteBeside() const;
+    std::filesystem::path folder() const;
+    bool folderWritable() const;
+
     std::filesystem::path m_path;
     sqlite3* m_db = nullptr;
 };

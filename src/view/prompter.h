@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace morvel::view {
 
@@ -9,12 +10,15 @@ enum class MsgBoxButtons : std::uint8_t { OK, OKCancel, YesNo, YesNoCancel };
 enum class MsgBoxIcon : std::uint8_t { None, Critical, Question, Exclamation, Information };
 enum class MsgBoxResult : std::uint8_t { OK, Cancel, Yes, No };
 
-// An empty title means the application's own title.
+// An empty title means the application's own title. buttonTexts, when given, name the buttons in
+// their order (Yes, No, Cancel) by what they do, for a host's question whose answers are not
+// plainly yes and no; the answers stay Yes, No and Cancel.
 struct MessageBoxRequest {
     std::string prompt;
     MsgBoxButtons buttons = MsgBoxButtons::OK;
     MsgBoxIcon icon = MsgBoxIcon::None;
     std::string title;
+    std::vector<std::string> buttonTexts{};
 };
 
 struct InputBoxRequest {

@@ -1,4 +1,5 @@
 // morvel-designer as a person or a script runs it from the command line.
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
@@ -58,11 +59,35 @@ private slots:
         QVERIFY(!QFile::exists(folder.filePath("x.png")));
     }
 
-    void anUnknownTableIsNamedInTheError() {
-        const Run missing = run({"--db", folder.filePath("tables.morvel"), "--table", "Invoices",
-                                 "--screenshot", folder.filePath("y.png")});
-        QCOMPARE(missing.exitCode, 2);
-        QVERIFY(missing.output.contains("\"Invoices\""));
+    // Bad input at start: each case says what it found, in a sentence, and only a database that
+    // cannot be used stops the program.
+    void badInputAtStartIsSaidPlainly() {
+        QFile(folder.filePath("empty.morvel")).open(QIODevice::WriteOnly);
+        QDir(folder.path()).mkdir("tables");
+        struct Case {
+            QStringList arguments;
+            int exitCode;
+            QString said;
+        };
+        const Case cases[] = {
+            {{"--db", folder.filePath("tables")}, 2, "is a folder, not a database file"},
+            {{"--db", folder.filePath("t.morvel"), "--table", "Invoices"},
+             0,
+             "There is no table \"Invoices\""},
+            {{"--db", folder.filePath("empty.morvel")}, 0, "The empty file"},
+            {{"stray"}, 1, "Unexpected argument \"stray\""},
+        };
+        for (const Case& c : cases) {
+            const Run result =
+                run(c.arguments + QStringList{"--screenshot", folder.filePath("z.png")});
+            QCOMPARE(result.exitCode, c.exitCode);
+            QVERIFY2(result.output.contains(c.said), qPrintable(result.output));
+            QVERIFY2(!result.output.contains("I/O error"), qPrintable(result.output));
+            const QStringList messages = result.output.split("morvel-designer: ").mid(1);
+            QVERIFY(!messages.isEmpty());
+            for (const QString& message : messages)
+                QVERIFY2(message.front().isUpper(), qPrintable(message));
+        }
     }
 };
 

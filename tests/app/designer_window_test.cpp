@@ -1,74 +1,235 @@
-// The host window around the designer: what counts as an unsaved edit, and a save that someone
-// else's save got ahead of.
+// The host window as a person uses it, keys and mouse on the real widgets; every message box is
+// answered by a scripted prompter.
 #include "designer_window.h"
 #include "store/sample_schema.h"
+#include "testing/scripted_prompter.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QFile>
+#include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QMenuBar>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
+#include <QTreeView>
 
 using namespace morvel;
+using view::MsgBoxResult;
 
 class DesignerWindowTest : public QObject {
     Q_OBJECT
 
 private:
     QTemporaryDir folder;
+    QString path;
     std::shared_ptr<SchemaDatabase> database;
+    testkit::ScriptedPrompter prompter;
+    int run = 0;
 
-    QStringList answered;
-    QTimer answerer;
-
-    // Closes every message box that comes up and keeps its text.
-    void answerMessages() {
-        connect(&answerer, &QTimer::timeout, this, [this] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                answered.append(box->text());
-                box->close();
-            }
-        });
-        answerer.start(20);
+    std::unique_ptr<app::DesignerWindow> open(const char* table = "Orders") {
+        auto window = std::make_unique<app::DesignerWindow>(database, &prompter);
+        if (!window->openTable(table))
+            qFatal("no table %s", table);
+        window->resize(700, 520);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        return window;
+    }
+    static control::Morvel& morvel(app::DesignerWindow& window) {
+        return window.designer().morvel();
+    }
+    static QString shown(app::DesignerWindow& window) {
+        const auto field = window.designer().selectedField();
+        return field ? QString::fromStdString(field->Name()) : QString();
+    }
+    // A click on the field's row, scrolled into view first as a person would scroll.
+    static void clickRow(app::DesignerWindow& window, const char* name) {
+        QTreeView& list = window.fieldList();
+        const QModelIndex index = list.model()->index(morvel(window).lst.item(name).index() - 1, 0);
+        list.scrollTo(index);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(index).center());
+    }
+    static bool rowInView(app::DesignerWindow& window) {
+        QTreeView& list = window.fieldList();
+        const QModelIndex index = list.currentIndex();
+        return index.isValid() && list.viewport()->rect().contains(list.visualRect(index));
+    }
+    static bool noteShown(app::DesignerWindow& window, const char* name) {
+        return window.findChild<QLabel*>(name)->isVisibleTo(&window);
+    }
+    static QLineEdit* box(app::DesignerWindow& window, view::Control& control) {
+        return window.designer().binding().widgetAs<QLineEdit>(control);
+    }
+    // Clicks into the display name box and types at the end of its text.
+    static void typeAtEnd(app::DesignerWindow& window, const char* text) {
+        QLineEdit* edit = box(window, morvel(window).txtDisplayName);
+        QTest::mouseClick(edit, Qt::LeftButton);
+        QTest::keyClick(edit, Qt::Key_End);
+        QTest::keyClicks(edit, text);
+    }
+    std::string lastPrompt() const {
+        return prompter.promptTexts().empty() ? "" : prompter.promptTexts().back();
     }
 
 private slots:
-    void initTestCase() {
-        database = std::make_shared<SchemaDatabase>(
-            std::filesystem::path(folder.filePath("sample.morvel").toStdString()));
+    // Every test gets a fresh sample database of its own.
+    void init() {
+        path = folder.filePath(QString("sample%1.morvel").arg(++run));
+        database = std::make_shared<SchemaDatabase>(std::filesystem::path(path.toStdString()));
         writeSampleSchema(*database);
+        prompter.reset();
     }
 
-    void showingFieldsIsNoEditButTypingIs() {
-        app::DesignerWindow window(database);
-        QVERIFY(window.openTable("Orders"));
-        window.show();
-        control::Morvel& morvel = window.designer().morvel();
-        morvel.lst.clickItem(morvel.lst.item("Customer"));
-        morvel.lst.clickItem(morvel.lst.item("CardNumber"));
-        QVERIFY(!window.isModified());
-        QTest::keyClicks(window.designer().binding().widgetAs<QLineEdit>(morvel.txtDisplayName),
-                         "!");
-        QVERIFY(window.isModified());
-        QVERIFY(window.windowTitle().startsWith("Orders"));
+    void theUnlockStartsOffIsShownAndEndsWithTheTable() {
+        auto window = open();
+        QVERIFY(!window->designer().canModifyExisting());
+        QTest::keyClick(window.get(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(window->designer().canModifyExisting());
+        QVERIFY(noteShown(*window, "unlockNote"));
+        QVERIFY2(!open()->designer().canModifyExisting(), "another start begins locked");
+
+        for (const char* table : {"Orders", "Customers"}) { // the same one again, another one
+            window->session().open(table);
+            QVERIFY(!window->designer().canModifyExisting());
+            QVERIFY(!noteShown(*window, "unlockNote"));
+            QTest::keyClick(window.get(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+        }
     }
 
-    void aSaveThatSomeoneElseGotAheadOfKeepsTheEdits() {
-        app::DesignerWindow mine(database);
-        app::DesignerWindow theirs(database);
-        QVERIFY(mine.openTable("Orders"));
-        QVERIFY(theirs.openTable("Orders"));
-        theirs.table().fields->Item("Quantity")->SetDisplayName("Pieces");
-        QVERIFY(theirs.save());
+    void deleteRemovesTheSelectedFieldOnlyFromTheListAndAfterAsking() {
+        struct Case {
+            const char* what;
+            bool inList;
+            Qt::Key key;
+            Qt::KeyboardModifiers modifiers;
+            MsgBoxResult answer;
+            const char* shownAfter;
+        };
+        const Case cases[] = {
+            {"Delete, No", true, Qt::Key_Delete, {}, MsgBoxResult::No, "Total"},
+            {"Delete, Yes", true, Qt::Key_Delete, {}, MsgBoxResult::Yes, "Paid"},
+            {"Ctrl+Delete, Yes", true, Qt::Key_Delete, Qt::ControlModifier, MsgBoxResult::Yes,
+             "Paid"},
+            {"Delete in a box", false, Qt::Key_Delete, {}, MsgBoxResult::Yes, "Total"},
+        };
+        for (const Case& c : cases) {
+            auto window = open();
+            prompter.reset();
+            clickRow(*window, "Total");
+            QWidget* target = &window->fieldList();
+            if (!c.inList) {
+                target = box(*window, morvel(*window).txtDisplayName);
+                QTest::mouseClick(target, Qt::LeftButton);
+            }
+            prompter.answer(c.answer);
+            QTest::keyClick(target, c.key, c.modifiers);
+            const bool asked = prompter.pendingAnswers() == 0;
+            QVERIFY2(asked == (std::string(c.what) != "Delete in a box"), c.what);
+            QCOMPARE(shown(*window), QString(c.shownAfter));
+            QCOMPARE(!window->table().fields->find("Total"), QString(c.shownAfter) == "Paid");
+            QVERIFY2(rowInView(*window), c.what);
+            if (c.inList)
+                QVERIFY2(QApplication::focusWidget() == target, c.what);
+        }
+    }
 
-        mine.table().fields->Item("Total")->SetDisplayName("Grand total");
-        answerMessages();
-        QVERIFY(!mine.save());
-        QCOMPARE(answered.size(), 1);
-        QVERIFY(answered.front().contains("nothing was saved"));
-        QVERIFY(mine.isModified());
-        QCOMPARE(mine.table().fields->Item("Total")->DisplayName(), "Grand total");
+    void everyMenuCommandShowsItsShortcutAndFindNextRunsFromTheKeyboard() {
+        auto window = open();
+        QStringList missing;
+        for (QAction* menu : window->menuBar()->actions())
+            for (QAction* action : menu->menu()->actions())
+                if (!action->isSeparator() && action->shortcut().isEmpty())
+                    missing << action->text();
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(", ")));
+
+        clickRow(*window, "Quantity");
+        QTest::keyClick(&window->fieldList(), Qt::Key_F3); // an empty search finds the next row
+        QCOMPARE(shown(*window), QString("Total"));
+        QTest::keyClick(box(*window, morvel(*window).txtDisplayName), Qt::Key_F3);
+        QCOMPARE(shown(*window), QString("Paid"));
+        QVERIFY(prompter.prompts().empty());
+    }
+
+    void saveAndRevertKeepTheFieldShownAndTheScrollPosition() {
+        auto window = open();
+        clickRow(*window, "zrCreatedBy");
+        const int scroll = window->fieldList().verticalScrollBar()->value();
+        QVERIFY(scroll > 0);
+        typeAtEnd(*window, " (user)");
+        QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!window->isModified());
+        typeAtEnd(*window, "!");
+        prompter.answer(MsgBoxResult::Yes);
+        QTest::keyClick(window.get(), Qt::Key_R, Qt::ControlModifier);
+        QCOMPARE(lastPrompt().substr(0, 16), "Reload \"Orders\" ");
+        QVERIFY(!window->isModified());
+        QCOMPARE(window->table().fields->Item("zrCreatedBy")->DisplayName(), "Created by (user)");
+        QCOMPARE(shown(*window), QString("zrCreatedBy"));
+        QCOMPARE(window->fieldList().verticalScrollBar()->value(), scroll);
+    }
+
+    void aSaveThatSomeoneElseGotAheadOfOffersSaveAsNewAndReload() {
+        for (const MsgBoxResult wayOut : {MsgBoxResult::Yes, MsgBoxResult::No}) {
+            auto mine = open();
+            auto theirs = open();
+            theirs->table().fields->Item("Quantity")->SetDisplayName("Pieces");
+            QVERIFY(theirs->save());
+            mine->table().fields->Item("Total")->SetDisplayName("Grand total");
+            prompter.reset();
+            prompter.answer(wayOut);
+            if (wayOut == MsgBoxResult::Yes) {
+                prompter.answer("Customers"); // taken: the store says so, and the name is asked
+                prompter.answer("MyOrders");  // again
+            } else {
+                prompter.answer(MsgBoxResult::Yes); // drop my edits
+            }
+            QCOMPARE(mine->save(), wayOut == MsgBoxResult::Yes);
+            const auto& refusal = std::get<view::MessageBoxRequest>(prompter.prompts().front());
+            QVERIFY(refusal.prompt.find("not saved") != std::string::npos);
+            QVERIFY(refusal.prompt.find("still in the window") != std::string::npos);
+            QCOMPARE(refusal.buttonTexts,
+                     (std::vector<std::string>{"Save as New Table...", "Reload", "Cancel"}));
+            QVERIFY(!mine->isModified());
+            if (wayOut == MsgBoxResult::Yes) {
+                QCOMPARE(prompter.promptTexts().at(2),
+                         "There is a table named \"Customers\" already; choose another name.");
+                QCOMPARE(mine->table().info.name, "MyOrders");
+                QVERIFY(mine->windowTitle().startsWith("MyOrders"));
+                QCOMPARE(database->load("MyOrders").fields->Item("Total")->DisplayName(),
+                         "Grand total");
+            } else {
+                QCOMPARE(mine->table().fields->Item("Quantity")->DisplayName(), "Pieces");
+                QCOMPARE(mine->table().fields->Item("Total")->DisplayName(), "Total");
+            }
+        }
+    }
+
+    void aSaveThatCannotWriteSaysWhyAndKeepsTheEdits() {
+        auto window = open();
+        // The journal a save writes beside the file cannot be made: its name leads nowhere.
+        QVERIFY(QFile::link(folder.filePath("missing/journal"), path + "-journal"));
+        window->table().fields->Item("Total")->SetDisplayName("Grand total");
+        QVERIFY(!window->save());
+        const QString message = QString::fromStdString(lastPrompt());
+        QVERIFY2(message.contains("cannot be saved") && message.contains("still in the window") &&
+                     !message.contains("cannot be opened"),
+                 qPrintable(message));
+        QVERIFY(window->isModified());
+    }
+
+    void aReadOnlyDatabaseIsSaidWhenItOpens() {
+        database = std::make_shared<SchemaDatabase>(std::filesystem::path(path.toStdString()),
+                                                    SchemaDatabase::Access::ReadOnly);
+        auto window = open();
+        QVERIFY(window->windowTitle().contains("[read only]"));
+        QVERIFY(noteShown(*window, "readOnlyNote"));
+        QAction* save = window->menuBar()->actions().front()->menu()->actions().front();
+        QVERIFY(!save->isEnabled());
+        QVERIFY(save->toolTip().contains("cannot be written"));
+        QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(prompter.prompts().empty());
     }
 };
 

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "base/signal.h"
+#include "store/schema_database.h"
+#include "store/store_error.h"
+#include "view/prompter.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace morvel::app {
+
+// One table of a schema database, open for editing: loads it, knows whether it has unsaved edits,
+// saves it (under its own name or as a new table) and loads it again, asking and telling the
+// person through the prompter. It knows no window, so that every path runs with a scripted
+// prompter; the window wires its actions to these calls and shows the state they announce.
+class TableSession {
+public:
+    TableSession(std::shared_ptr<SchemaDatabase> database, view::Prompter& prompter);
+
+    SchemaDatabase& database() const { return *m_database; }
+    const std::shared_ptr<SchemaDatabase>& sharedDatabase() const { return m_database; }
+    const TableDefinition& table() const { return m_table; }
+    bool isOpen() const { return !m_table.info.name.empty(); }
+    bool isModified() const { return m_modified; }
+    bool isReadOnly() const { return m_readOnly; }
+
+    // Run before anything reads the fields: the designer ends the edit in progress.
+    void setCommitEdit(std::function<void()> commitEdit) { m_commitEdit = std::move(commitEdit); }
+
+    // Loads the table of that name; false when there is none. Throws StoreError when it cannot
+    // be read. The edits of the table open until now are dropped: settle them first.
+    bool open(std::string_view name);
+    // Saves the table; a refusal or a failure is told with what the person can do, and the
+    // edits stay. A save that someone else's save got ahead of offers the ways out.
+    bool save();
+    // Asks for a name and stores the fields as a new table of that name, which is then the one
+    // open; asks again while the store refuses the name. False when the person cancels.
+    bool saveAsNew();
+    // Loads the table again as stored, after warning that this drops the unsaved edits.
+    bool reload();
+    // Asks Save / Discard / Cancel when there are unsaved edits; false when the person cancels
+    // (or the save fails).
+    bool settleUnsavedEdits();
+
+    // A table was loaded (or loaded again): the host hands its fields to the designer.
+    Signal<> loaded;
+    // The modified state, the table's name or the read-only state changed.
+    Signal<> stateChanged;
+
+private:
+    void load(TableDefinition table);
+    void setModified(bool modified);
+    void commitEdit() const;
+    bool offerWaysOut();
+    void tell(const std::string& message, view::MsgBoxIcon icon);
+    std::string quotedName() const;
+
+    std::shared_ptr<SchemaDatabase> m_database;
+    view::Prompter& m_prompter;
+    std::function<void()> m_commitEdit;
+    TableDefinition m_table;
+    Connections m_watch;
+    bool m_modified = false;
+    bool m_readOnly = false;
+};
+
+// The plain words for a save that failed: what happened, that the edits are still in the window,
+// and what the person can do.
+std::string describeSaveFailure(const StoreError& error);
+
+} // namespace morvel::app
