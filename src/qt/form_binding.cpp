@@ -1,6 +1,7 @@
 #include "qt/form_binding.h"
 
 #include "qt/control_binder.h"
+#include "qt/focus_ring.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -73,6 +74,7 @@ FormBinding::FormBinding(view::Form& form, QWidget& root, RootSize rootSize)
         binder->refresh();
     applyTabOrder();
     m_root.installEventFilter(this);
+    new FocusRing(root);
 }
 
 FormBinding::~FormBinding() = default;

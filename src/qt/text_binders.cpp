@@ -21,16 +21,20 @@ int toQtPosition(const std::string& text, std::int32_t position) {
     return static_cast<int>(QString::fromUtf8(text.data(), static_cast<qsizetype>(bytes)).size());
 }
 // A locked box looks read-only the way a form's box does: the window's colour behind its text
-// instead of the colour of a field that takes typing.
-void showLocked(QWidget& widget, bool locked) {
+// instead of the colour of a field that takes typing. A drop-down, which several styles draw
+// like a button whatever its colours, also shows its text dimmed.
+void showLocked(QWidget& widget, bool locked, bool dimText = false) {
+    const QPalette usual = widget.parentWidget() ? widget.parentWidget()->palette() : QPalette();
     QPalette palette = widget.palette();
-    const QPalette usual = widget.parentWidget() ? widget.parentWidget()->palette() : palette;
-    for (auto role : {QPalette::Base, QPalette::Button})
-        palette.setColor(QPalette::Active, role,
-                         usual.color(QPalette::Active, locked ? QPalette::Window : role));
-    for (auto role : {QPalette::Base, QPalette::Button})
-        palette.setColor(QPalette::Inactive, role,
-                         usual.color(QPalette::Inactive, locked ? QPalette::Window : role));
+    for (auto group : {QPalette::Active, QPalette::Inactive}) {
+        for (auto role : {QPalette::Base, QPalette::Button})
+            palette.setColor(group, role, usual.color(group, locked ? QPalette::Window : role));
+        if (dimText)
+            for (auto role : {QPalette::Text, QPalette::ButtonText})
+                palette.setColor(group, role,
+                                 locked ? usual.color(QPalette::Disabled, role)
+                                        : usual.color(group, role));
+    }
     widget.setPalette(palette);
 }
 
@@ -185,7 +189,7 @@ void ComboBoxBinder::toWidget(view::Property what) {
         static_cast<ChoiceBox&>(m_widget).setLocked(m_box.locked());
         if (QLineEdit* line = m_widget.lineEdit())
             line->setReadOnly(m_box.locked());
-        showLocked(m_widget, m_box.locked());
+        showLocked(m_widget, m_box.locked(), true);
         return;
     default:
         ControlBinder::toWidget(what);
