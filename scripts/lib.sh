@@ -8,7 +8,7 @@ MORVEL_PACKAGES=(
     cmake ninja-build g++ pkg-config
     qt6-base-dev libsqlite3-dev
     libgtest-dev libgmock-dev googletest libbenchmark-dev
-    xvfb xauth libgl-dev
+    xvfb xauth x11-utils openbox libgl-dev
     clang libclang-rt-14-dev
 )
 
@@ -48,6 +48,36 @@ morvel_install_packages() {
     export DEBIAN_FRONTEND=noninteractive
     apt-get update
     apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+# Runs a command on a fresh X display with a window manager: Xvfb on a free display number, then
+# openbox, so that windows are activated and take the keyboard focus as on a desktop. The
+# command's exit status is returned; the display and the window manager are stopped after it.
+morvel_in_x_session() {
+    local display=99
+    while [[ -e /tmp/.X11-unix/X$display || -e /tmp/.X$display-lock ]]; do
+        display=$((display + 1))
+    done
+    Xvfb ":$display" -screen 0 1280x900x24 -nolisten tcp >/dev/null 2>&1 &
+    local xvfb=$!
+    local tries
+    for tries in $(seq 50); do
+        xdpyinfo -display ":$display" >/dev/null 2>&1 && break
+        sleep 0.1
+    done
+    DISPLAY=":$display" openbox >/dev/null 2>&1 &
+    local manager=$!
+    # The manager is ready once it has announced itself on the root window.
+    for tries in $(seq 50); do
+        DISPLAY=":$display" xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' &&
+            break
+        sleep 0.1
+    done
+    local status=0
+    DISPLAY=":$display" "$@" || status=$?
+    kill "$manager" "$xvfb" 2>/dev/null || true
+    wait "$manager" "$xvfb" 2>/dev/null || true
+    return "$status"
 }
 
 # Build parallelism: the caller's CMAKE_BUILD_PARALLEL_LEVEL, else one job per core.

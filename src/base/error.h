@@ -7,9 +7,23 @@ namespace morvel {
 
 // Every failure that Morvel raises derives from Error, so that a host can catch one type and show
 // what() to a person: messages are written for the person, not for a log.
+//
+// A failure may also say what it is about: the owner (the list whose key was taken, say) and the
+// key or value concerned, so that a front end can word it for a person without reading what().
 class Error : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+    Error(const std::string& message, std::string owner, std::string key)
+        : std::runtime_error(message)
+        , m_owner(std::move(owner))
+        , m_key(std::move(key)) {}
+
+    const std::string& owner() const { return m_owner; }
+    const std::string& key() const { return m_key; }
+
+private:
+    std::string m_owner;
+    std::string m_key;
 };
 
 // The field library refused a name: empty, or taken by another field of the same collection.

@@ -54,6 +54,11 @@ public:
     // Raised whenever another field (or none) becomes the current field.
     Signal<const FieldDefPtr&> currentFieldChanged;
 
+    // For front ends: true while the control only shows a field (fills the panel, or moves a
+    // combo's selection by code). What its logic does meanwhile is not the person's doing: a
+    // focus move then is not a place for the person's next keystroke.
+    bool showingField() const { return m_loading || m_panelLoading; }
+
     // Choice lists from the catalogues.
     void FillTypeList(view::ComboBox& list);
     std::string GetTypeName(std::int32_t code) const;

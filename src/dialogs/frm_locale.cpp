@@ -163,7 +163,7 @@ bool frmLocale::isLinkField() const {
 view::ListItem& frmLocale::selectedLocale() const {
     if (view::ListItem* item = lstLocale.selectedItem())
         return *item;
-    throw NotFoundError("No locale is selected.");
+    throw NotFoundError("No locale is selected.", lstLocale.name(), "");
 }
 
 void frmLocale::showText(view::TextBox& box, std::string text) {

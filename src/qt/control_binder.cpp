@@ -38,7 +38,7 @@ void ControlBinder::toWidget(view::Property what) {
         m_widget.setVisible(m_control.visible());
         return;
     case view::Property::Geometry:
-        m_widget.setGeometry(m_binding.scale().toPixels(m_control.geometry()));
+        m_widget.setGeometry(m_binding.placeOf(m_control));
         return;
     case view::Property::Font:
         if (!m_control.fontName().empty()) {

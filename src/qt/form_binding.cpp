@@ -1,6 +1,7 @@
 #include "qt/form_binding.h"
 
 #include "qt/control_binder.h"
+#include "qt/focus_ring.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -73,6 +74,7 @@ FormBinding::FormBinding(view::Form& form, QWidget& root, RootSize rootSize)
         binder->refresh();
     applyTabOrder();
     m_root.installEventFilter(this);
+    new FocusRing(root);
 }
 
 FormBinding::~FormBinding() = default;
@@ -119,8 +121,9 @@ FormBinding::FocusHold::~FocusHold() {
 }
 
 void FormBinding::mirrorFocus(QWidget& widget) {
-    if (m_focusHolds == 0 && !widget.hasFocus())
-        widget.setFocus(Qt::OtherFocusReason);
+    if (m_focusHolds > 0 || (m_showingData && m_showingData()) || widget.hasFocus())
+        return;
+    widget.setFocus(Qt::OtherFocusReason);
 }
 
 void FormBinding::focusEntered(view::Control& control) {
@@ -138,6 +141,26 @@ void FormBinding::focusLeft(Qt::FocusReason reason) {
     if (next && (next == &m_root || m_root.isAncestorOf(next)))
         return;
     releaseFocus();
+}
+
+void FormBinding::setSplit(const view::Control& upper, const view::Control& lower, int pixels) {
+    m_split = {&upper, &lower, std::max(pixels, 0)};
+    for (const auto& binder : m_binders)
+        if (binder->control().parent() == &m_form)
+            binder->widget().setGeometry(placeOf(binder->control()));
+}
+
+QRect FormBinding::placeOf(const view::Control& control) const {
+    QRect place = m_scale.toPixels(control.geometry());
+    if (m_split.pixels == 0 || control.parent() != &m_form)
+        return place;
+    if (&control == m_split.upper)
+        return place.adjusted(0, 0, 0, -m_split.pixels);
+    const view::Control& upper = *m_split.upper;
+    if (control.top() < upper.top() + upper.height())
+        return place;
+    place.translate(0, -m_split.pixels);
+    return &control == m_split.lower ? place.adjusted(0, 0, 0, m_split.pixels) : place;
 }
 
 void FormBinding::releaseFocus() {

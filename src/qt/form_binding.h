@@ -4,6 +4,7 @@
 #include "view/form.h"
 
 #include <QObject>
+#include <functional>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -19,10 +20,12 @@ class ControlBinder;
 // input reaches the model through each control's own user actions, and failures stop at the
 // binding's event boundary as a message box.
 //
-// Keyboard focus follows the model when its logic moves it; a focus the person moves (a click,
-// Tab) becomes the model's focus through Form::setFocusTo, so LostFocus handlers run in the
-// model. Focus moves that Qt makes while it mirrors a model change (a focused widget hidden, say)
-// are not fed back: the model keeps the focus its logic gave.
+// Keyboard focus follows the model when its logic moves it on purpose (into the name box of a
+// field the host added, say); a focus the person moves (a click, Tab) becomes the model's focus
+// through Form::setFocusTo, so LostFocus handlers run in the model. Two kinds of move stay in the
+// model: those Qt makes while it mirrors a model change (a focused widget hidden, say), and those
+// the logic makes while it only shows data (see setShowingData). A combo box that a load left
+// focused in the model would otherwise take the person's next arrow key for a new choice.
 class FormBinding : public QObject {
 public:
     // An embedded form's size follows its root widget; a dialog's root also follows the form
@@ -74,6 +77,22 @@ public:
         FormBinding& m_binding;
     };
 
+    // Tells when the form's logic is only showing data (filling its boxes for another record):
+    // the focus moves it makes meanwhile are its own bookkeeping and stay in the model, and the
+    // keyboard stays where the person has it.
+    void setShowingData(std::function<bool()> showingData) {
+        m_showingData = std::move(showingData);
+    }
+
+    // Moves the border between two controls of the form stacked one above the other (a list above
+    // a panel) by pixels: the upper one gives the lower one that much of its height, and every
+    // control of the form below the border moves up with it. The model keeps its designed layout;
+    // only the widgets move. 0 shows the design.
+    void setSplit(const view::Control& upper, const view::Control& lower, int pixels);
+    int split() const { return m_split.pixels; }
+    // Where the widget of a control goes: its place in the model, moved by the split.
+    QRect placeOf(const view::Control& control) const;
+
     // The person moved the focus out of the form, to another part of the host window: the
     // control that had it loses it, so its LostFocus handler commits what was typed.
     void releaseFocus();
@@ -100,6 +119,14 @@ private:
     RootSize m_rootSize;
     std::vector<std::unique_ptr<ControlBinder>> m_binders;
     std::unordered_map<const view::Control*, ControlBinder*> m_byControl;
+    struct Split {
+        const view::Control* upper = nullptr;
+        const view::Control* lower = nullptr;
+        int pixels = 0;
+    };
+
+    std::function<bool()> m_showingData;
+    Split m_split;
     int m_focusHolds = 0;
     int m_mirroring = 0;
     bool m_resizingRoot = false;

@@ -4,8 +4,10 @@
 #include "qt/list_view_model.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 #include <QTreeView>
 
 namespace morvel::qt {
@@ -78,7 +80,8 @@ ListViewBinder::ListViewBinder(FormBinding& binding, view::ListView& list, QWidg
     m_tree.setSelectionBehavior(QAbstractItemView::SelectRows);
     m_tree.setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_tree.setSortingEnabled(false);
-    m_tree.header()->setStretchLastSection(false);
+    // The person sizes the columns; the last one takes whatever width is left.
+    m_tree.header()->setStretchLastSection(true);
     m_tree.header()->setSectionsMovable(false);
     m_tree.header()->setSectionResizeMode(QHeaderView::Interactive);
     m_tree.viewport()->installEventFilter(this);
@@ -155,7 +158,24 @@ void ListViewBinder::clickRow(int row) {
     act([&] { m_list.clickItem(*item); });
 }
 
+void ListViewBinder::showCutText(const QHelpEvent& help) {
+    const QModelIndex index = m_tree.indexAt(help.pos());
+    const QString text = index.data().toString();
+    const QRect cell = m_tree.visualRect(index);
+    // A cell's text has a margin of a few pixels either side; a cut text shows whole in a tip.
+    const int margin = 2 * (m_tree.style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    if (!index.isValid() || m_tree.fontMetrics().horizontalAdvance(text) + margin <= cell.width()) {
+        QToolTip::hideText();
+        return;
+    }
+    QToolTip::showText(help.globalPos(), text, m_tree.viewport(), cell);
+}
+
 bool ListViewBinder::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_tree.viewport() && event->type() == QEvent::ToolTip) {
+        showCutText(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
     if (watched == m_tree.viewport() && event->type() == QEvent::MouseButtonPress) {
         const auto* press = static_cast<QMouseEvent*>(event);
         const QModelIndex index = m_tree.indexAt(press->position().toPoint());

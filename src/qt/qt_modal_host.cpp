@@ -2,9 +2,11 @@
 
 #include "qt/error_boundary.h"
 #include "qt/form_binding.h"
+#include "qt/qt_prompter.h"
 #include "view/form.h"
 
 #include <QDialog>
+#include <algorithm>
 
 namespace morvel::qt {
 
@@ -13,6 +15,8 @@ void QtModalHost::showModal(view::Form& form) {
     if (m_parent)
         dialog.setFont(m_parent->font());
     FormBinding binding(form, dialog, FormBinding::RootSize::FollowsForm);
+    // Wide enough for its whole title; a fixed design keeps its height.
+    dialog.resize(std::max(dialog.width(), widthForTitle(dialog.windowTitle())), dialog.height());
     // A form that lays itself out on Resize can grow; any other keeps its design size.
     if (form.Resize.empty())
         dialog.setFixedSize(dialog.size());

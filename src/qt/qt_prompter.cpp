@@ -2,8 +2,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QSpacerItem>
+#include <QStyle>
 
 namespace morvel::qt {
 
@@ -55,6 +59,18 @@ QWidget* QtPrompter::parentWindow() const {
     return QApplication::activeWindow();
 }
 
+// The platform adds the application's name to the title; the window manager draws it in a
+// larger bold font, beside the frame's icon and buttons.
+int widthForTitle(QString title) {
+    const QString application = QApplication::applicationDisplayName();
+    if (!application.isEmpty() && title != application)
+        title += QStringLiteral(" \u2014 ") + application;
+    QFont font = QApplication::font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.2);
+    return QFontMetrics(font).horizontalAdvance(title) + 160;
+}
+
 view::MsgBoxResult QtPrompter::messageBox(const view::MessageBoxRequest& request) {
     QMessageBox box(iconOf(request.icon), titleOf(request.title), toQString(request.prompt),
                     buttonsOf(request.buttons), parentWindow());
@@ -68,6 +84,10 @@ view::MsgBoxResult QtPrompter::messageBox(const view::MessageBoxRequest& request
         if (QAbstractButton* button = box.button(which);
             button && next < request.buttonTexts.size())
             button->setText(toQString(request.buttonTexts[next++]));
+    // A message box sizes itself to its text; a spacer across its grid keeps the title whole.
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(widthForTitle(box.windowTitle()), 0), grid->rowCount(), 0, 1,
+                      grid->columnCount());
     switch (box.exec()) {
     case QMessageBox::Yes:
         return view::MsgBoxResult::Yes;
@@ -82,11 +102,15 @@ view::MsgBoxResult QtPrompter::messageBox(const view::MessageBoxRequest& request
 }
 
 std::string QtPrompter::inputBox(const view::InputBoxRequest& request) {
-    bool ok = false;
-    const QString text =
-        QInputDialog::getText(parentWindow(), titleOf(request.title), toQString(request.prompt),
-                              QLineEdit::Normal, toQString(request.defaultText), &ok);
-    return ok ? text.toStdString() : std::string();
+    QInputDialog box(parentWindow());
+    box.setWindowTitle(titleOf(request.title));
+    box.setLabelText(toQString(request.prompt));
+    box.setTextValue(toQString(request.defaultText));
+    // The dialog's layout fixes its size from its contents: the text line carries the width.
+    if (auto* line = box.findChild<QLineEdit*>())
+        line->setMinimumWidth(widthForTitle(box.windowTitle()) -
+                              2 * box.style()->pixelMetric(QStyle::PM_LayoutLeftMargin));
+    return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
 } // namespace morvel::qt

@@ -23,4 +23,7 @@ private:
     QPointer<QWidget> m_parent;
 };
 
+// The width a dialog needs so that the window manager shows its whole title.
+int widthForTitle(QString title);
+
 } // namespace morvel::qt

@@ -1,9 +1,11 @@
 #include "qt/text_binders.h"
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 #include <algorithm>
 
 namespace morvel::qt {
@@ -18,6 +20,80 @@ int toQtPosition(const std::string& text, std::int32_t position) {
         std::clamp<std::size_t>(static_cast<std::size_t>(std::max(position, 0)), 0, text.size());
     return static_cast<int>(QString::fromUtf8(text.data(), static_cast<qsizetype>(bytes)).size());
 }
+// A locked box looks read-only the way a form's box does: the window's colour behind its text
+// instead of the colour of a field that takes typing. A drop-down, which several styles draw
+// like a button whatever its colours, also shows its text dimmed.
+void showLocked(QWidget& widget, bool locked, bool dimText = false) {
+    const QPalette usual = widget.parentWidget() ? widget.parentWidget()->palette() : QPalette();
+    QPalette palette = widget.palette();
+    for (auto group : {QPalette::Active, QPalette::Inactive}) {
+        for (auto role : {QPalette::Base, QPalette::Button})
+            palette.setColor(group, role, usual.color(group, locked ? QPalette::Window : role));
+        if (dimText)
+            for (auto role : {QPalette::Text, QPalette::ButtonText})
+                palette.setColor(group, role,
+                                 locked ? usual.color(QPalette::Disabled, role)
+                                        : usual.color(group, role));
+    }
+    widget.setPalette(palette);
+}
+
+// A drop-down that changes only when the person means it: the wheel turns it only while it has
+// the keyboard focus (a wheel passing over the panel scrolls nothing away), and a locked one
+// neither opens its list nor moves its choice from the keyboard.
+class ChoiceBox : public QComboBox {
+public:
+    explicit ChoiceBox(QWidget* parent)
+        : QComboBox(parent) {
+        setFocusPolicy(Qt::StrongFocus);
+        // Long lists (the 40 types) open as a short list with a scroll bar.
+        setMaxVisibleItems(20);
+    }
+
+    void setLocked(bool locked) { m_locked = locked; }
+
+    void showPopup() override {
+        if (!m_locked)
+            QComboBox::showPopup();
+    }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (m_locked || !hasFocus()) {
+            event->ignore();
+            return;
+        }
+        QComboBox::wheelEvent(event);
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (m_locked && changesChoice(*event)) {
+            event->ignore();
+            return;
+        }
+        QComboBox::keyPressEvent(event);
+    }
+
+private:
+    static bool changesChoice(const QKeyEvent& event) {
+        switch (event.key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+        case Qt::Key_Space:
+        case Qt::Key_F4:
+            return true;
+        default:
+            // A non-editable combo also jumps to the entry whose text starts with a typed letter.
+            return !event.text().isEmpty() && event.text().at(0).isPrint();
+        }
+    }
+
+    bool m_locked = false;
+};
+
 QWidget& makeTextWidget(const view::TextBox& box, QWidget& parent) {
     if (!box.multiLine())
         return *new QLineEdit(&parent);
@@ -65,6 +141,7 @@ void TextBoxBinder::toWidget(view::Property what) {
             m_line->setReadOnly(m_box.locked());
         else
             m_plain->setReadOnly(m_box.locked());
+        showLocked(widget(), m_box.locked());
         return;
     case view::Property::Selection:
         if (m_line) {
@@ -79,11 +156,10 @@ void TextBoxBinder::toWidget(view::Property what) {
 }
 
 ComboBoxBinder::ComboBoxBinder(FormBinding& binding, view::ComboBox& box, QWidget& parent)
-    : ControlBinder(binding, box, *new QComboBox(&parent))
+    : ControlBinder(binding, box, *new ChoiceBox(&parent))
     , m_box(box)
     , m_widget(static_cast<QComboBox&>(widget())) {
     m_widget.setEditable(box.style() == view::ComboBox::Style::Editable);
-    m_widget.setMaxVisibleItems(16);
     QObject::connect(&m_widget, &QComboBox::activated, this, [this](int index) {
         act([&] { m_box.pick(index); });
         syncSelection();
@@ -110,8 +186,10 @@ void ComboBoxBinder::toWidget(view::Property what) {
         syncSelection();
         return;
     case view::Property::Locked:
+        static_cast<ChoiceBox&>(m_widget).setLocked(m_box.locked());
         if (QLineEdit* line = m_widget.lineEdit())
             line->setReadOnly(m_box.locked());
+        showLocked(m_widget, m_box.locked(), true);
         return;
     default:
         ControlBinder::toWidget(what);

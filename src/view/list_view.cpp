@@ -43,7 +43,8 @@ ListItem& ListView::add(std::string_view key, std::string_view text) {
     // One look-up for both the duplicate check and the insertion.
     if (!m_byKey.insert(item))
         throw DuplicateKeyError("The list \"" + name() + "\" has a row with the key \"" +
-                                std::string(item.key()) + "\" already.");
+                                    std::string(item.key()) + "\" already.",
+                                name(), std::string(item.key()));
     const std::size_t place = m_sorted ? sortedPlace(item) : m_rows.size();
     try {
         m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(place), std::move(row));
@@ -189,7 +190,8 @@ bool ListView::editLabel(ListItem& item, std::string text) {
 void ListView::rekey(ListItem& item, std::string key) {
     if (m_byKey.find(key))
         throw DuplicateKeyError("The list \"" + name() + "\" has a row with the key \"" + key +
-                                "\" already.");
+                                    "\" already.",
+                                name(), key);
     // The index hashes the row's own key: take the row out before the key changes.
     m_byKey.erase(item);
     if (key == item.text())

@@ -1,6 +1,7 @@
 // The binding against a small hand-built form: each person's action raises its event once, in
 // the model; the model's changes show in the widgets; failures are shown and survived.
 #include "base/error.h"
+#include "qt/error_boundary.h"
 #include "qt/form_binding.h"
 #include "qt/list_view_model.h"
 #include "view/combo_box.h"
@@ -207,16 +208,20 @@ private slots:
         Connection failing =
             form->cmdGo.Click.connect([] { throw InvalidOperationError("The field is locked."); });
         QString shown;
+        QMessageBox::Icon icon = QMessageBox::NoIcon;
         QTimer closer;
         connect(&closer, &QTimer::timeout, [&] {
             if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                 shown = box->text();
+                icon = box->icon();
                 box->accept();
             }
         });
         closer.start(20);
         QTest::mouseClick(&widget<QPushButton>(form->cmdGo), Qt::LeftButton);
-        QTRY_COMPARE(shown, QString("The field is locked."));
+        // Not a person's mistake: a fault, in general words.
+        QTRY_COMPARE(shown, qt::personMessage(InvalidOperationError("The field is locked.")).text);
+        QCOMPARE(icon, QMessageBox::Critical);
         QTest::keyClicks(&widget<QLineEdit>(form->txtName), "ok");
         QCOMPARE(form->txtName.text(), "ok");
     }

@@ -2,11 +2,13 @@
 #include "fields/field_defs.h"
 #include "qt/list_view_model.h"
 #include "qt/morvel_widget.h"
+#include "support/describe_fields.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -155,6 +157,73 @@ private slots:
         QCOMPARE(values.Count(), 1);
         QCOMPARE(values.begin()->Key, "1");
         QCOMPARE(values.begin()->Value.toText(), "Red");
+    }
+
+    void lockedBoxesLookReadOnlyAndKeepTheirValues() {
+        designer->setCanModifyExisting(false);
+        clickRow("Customer");
+        const std::string before = testing::describe(*defs);
+        auto& name = widget<QLineEdit>(morvel().txtName);
+        auto& type = widget<QComboBox>(morvel().cboType);
+        const QColor window = designer->palette().color(QPalette::Window);
+        QVERIFY(name.isReadOnly());
+        QCOMPARE(name.palette().color(QPalette::Base), window);
+        QCOMPARE(type.palette().color(QPalette::Button), window);
+        // The list does not open, and neither keys nor the wheel move the choice.
+        QTest::mouseClick(&type, Qt::LeftButton);
+        QVERIFY(!type.view()->isVisible());
+        QCOMPARE(QApplication::focusWidget(), &type);
+        for (int key : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageUp, Qt::Key_T, Qt::Key_F4})
+            QTest::keyClick(&type, Qt::Key(key));
+        QTest::keyClicks(&name, "Renamed");
+        QCOMPARE(testing::describe(*defs), before);
+        QCOMPARE(type.currentText(), QString("Link"));
+        // Allowed again, the same field's boxes look and act as usual.
+        designer->setCanModifyExisting(true);
+        QVERIFY(!name.isReadOnly());
+        QVERIFY(name.palette().color(QPalette::Base) != window);
+    }
+
+    void numberBoxesTakeOnlyWhatCanBeAWholeNumber() {
+        defs->Add("Code", 8);
+        auto& size = widget<QLineEdit>(morvel().txtSize);
+        QTest::mouseClick(&size, Qt::LeftButton);
+        QTest::keyClick(&size, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(&size, "1a2-b 3.");
+        QCOMPARE(size.text(), QString("123"));
+        QCOMPARE(defs->Item("Code")->Size(), 123);
+        QTest::keyClick(&size, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(&size, "-4x");
+        QCOMPARE(morvel().txtSize.text(), "-4");
+    }
+
+    void theLayoutThePersonGivesIsSavedAndRestored() {
+        QHeaderView& header = *tree().header();
+        QVERIFY(header.stretchLastSection());
+        header.resizeSection(0, 211);
+        // The bar between the list and the panel gives the panel 40 pixels of the list.
+        const int listHeight = tree().height();
+        QWidget* bar = designer->childAt(10, tree().geometry().bottom() + 3);
+        QVERIFY(bar && bar != &tree());
+        const auto drag = [bar](int dy) {
+            QTest::mousePress(bar, Qt::LeftButton, {}, {10, 2});
+            QTest::mouseMove(bar, {10, 2 + dy});
+            QTest::mouseRelease(bar, Qt::LeftButton, {}, {10, 2 + dy});
+        };
+        drag(-40);
+        QCOMPARE(tree().height(), listHeight - 40);
+        const QByteArray state = designer->saveLayoutState();
+        header.resizeSection(0, 90);
+        drag(40);
+        QVERIFY(!designer->restoreLayoutState("not a layout"));
+        QCOMPARE(header.sectionSize(0), 90);
+        QCOMPARE(tree().height(), listHeight);
+        QVERIFY(designer->restoreLayoutState(state));
+        QCOMPARE(header.sectionSize(0), 211);
+        QCOMPARE(tree().height(), listHeight - 40);
+        // However far it is dragged, the list keeps room for a few rows.
+        drag(-2000);
+        QVERIFY(tree().height() > 3 * tree().fontMetrics().height());
     }
 
 private:

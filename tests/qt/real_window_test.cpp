@@ -1,0 +1,127 @@
+// The designer in a real window under a window manager, where windows are activated and the
+// keyboard focus is real: stray keys after a Find must not reach a box of the panel. (Off screen
+// no window is ever active, the focus stays empty and such faults cannot show.)
+#include "fields/field_defs.h"
+#include "qt/morvel_widget.h"
+#include "support/describe_fields.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+#include <QWheelEvent>
+#include <cstdio>
+#include <cstdlib>
+
+using namespace morvel;
+
+class RealWindowTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<qt::MorvelWidget> designer;
+    std::shared_ptr<FieldDefs> defs;
+
+    control::Morvel& morvel() { return designer->morvel(); }
+    QTreeView& tree() { return *designer->binding().widgetAs<QTreeView>(morvel().lst); }
+
+    void clickRow(const char* name) {
+        const int row = morvel().lst.item(name).index() - 1;
+        const QRect cell = tree().visualRect(tree().model()->index(row, 0));
+        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, cell.center());
+    }
+    // Answers the next input box with text and Enter, as a person types into it.
+    static void answerNextInputBox(const QString& text) {
+        QTimer::singleShot(0, [text] {
+            QWidget* box = nullptr;
+            QTRY_VERIFY((box = QApplication::activeModalWidget()) != nullptr);
+            QTRY_VERIFY(box->isActiveWindow());
+            QTest::keyClicks(QApplication::focusWidget(), text);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        });
+    }
+    // What a person with a heavy hand does next: the navigation keys and a wheel turn, each to
+    // whatever has the keyboard focus.
+    static void strayKeysAndWheel() {
+        for (int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown}) {
+            QWidget* focus = QApplication::focusWidget();
+            QVERIFY(focus);
+            QTest::keyClick(focus, Qt::Key(key));
+        }
+        QWidget* focus = QApplication::focusWidget();
+        QVERIFY(focus);
+        const QPointF centre = QRectF(focus->rect()).center();
+        QWheelEvent wheel(centre, focus->mapToGlobal(centre), {}, {0, -120}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(focus, &wheel);
+    }
+
+private slots:
+    void init() {
+        defs = std::make_shared<FieldDefs>();
+        defs->Add("ID", 3);
+        defs->Add("Total", 8);
+        defs->Add("Approved", 11);
+        defs->Add("Notes", 200);
+        defs->Add("Owner", 1000);
+        designer = std::make_unique<qt::MorvelWidget>();
+        designer->setCanModifyExisting(true);
+        designer->setFieldDefs(defs);
+        designer->resize(900, 640);
+        designer->show();
+        designer->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(designer.get()));
+    }
+    void cleanup() {
+        designer.reset();
+        defs.reset();
+    }
+
+    void strayKeysAfterFindChangeNoField() {
+        const std::string before = testing::describe(*defs);
+        clickRow("Total");
+        answerNextInputBox("Notes");
+        QTest::keyClick(&tree(), Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(designer->selectedField()->Name(), "Notes");
+        QTRY_VERIFY(designer->isActiveWindow() && QApplication::focusWidget());
+        strayKeysAndWheel();
+        QCOMPARE(testing::describe(*defs), before);
+        QCOMPARE(QApplication::focusWidget(), &tree());
+
+        // Find Next (F3) from a row above repeats the search; the list keeps the keys again.
+        clickRow("Approved");
+        QTest::keyClick(&tree(), Qt::Key_F3);
+        QCOMPARE(designer->selectedField()->Name(), "Notes");
+        QCOMPARE(QApplication::focusWidget(), &tree());
+        strayKeysAndWheel();
+        QCOMPARE(testing::describe(*defs), before);
+    }
+
+    void aWheelOverAnUnfocusedDropDownChangesNothing() {
+        clickRow("Total");
+        auto& type = *designer->binding().widgetAs<QComboBox>(morvel().cboType);
+        QVERIFY(!type.hasFocus());
+        const std::string before = testing::describe(*defs);
+        const QPointF centre = QRectF(type.rect()).center();
+        QWheelEvent wheel(centre, type.mapToGlobal(centre), {}, {0, -120}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&type, &wheel);
+        QCOMPARE(testing::describe(*defs), before);
+    }
+};
+
+int main(int argc, char** argv) {
+    const char* display = std::getenv("DISPLAY");
+    if (!display || !*display) {
+        std::puts(
+            "SKIPPED: needs a real X display with a window manager (scripts/test starts one)");
+        return 0;
+    }
+    QApplication app(argc, argv);
+    RealWindowTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "real_window_test.moc"
