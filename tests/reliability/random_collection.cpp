@@ -143,7 +143,7 @@ FieldWrite randomWrite(RandomSource& random, FieldDef& field) {
         return {FieldMember::CreateOnDemand};
     case 11:
     case 12: {
-        const std::string key(kPropertyKeys[random.index(kPropertyKeys.size())]);
+        const std::string key(propertyKeys()[random.index(propertyKeys().size())]);
         field.Properties().Remove(key);
         return {FieldMember::Properties, key};
     }
@@ -158,7 +158,7 @@ FieldWrite randomWrite(RandomSource& random, FieldDef& field) {
         return {FieldMember::Locales, "DN" + n};
     }
     default: {
-        const std::string key(kPropertyKeys[random.index(kPropertyKeys.size())]);
+        const std::string key(propertyKeys()[random.index(propertyKeys().size())]);
         field.Properties().SetValue(key, randomValue(random), true);
         return {FieldMember::Properties, key};
     }
