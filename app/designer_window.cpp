@@ -7,9 +7,12 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QCryptographicHash>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScrollBar>
+#include <QSettings>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -45,6 +48,7 @@ DesignerWindow::DesignerWindow(std::shared_ptr<SchemaDatabase> database, view::P
     buildActions();
     buildStatusBar();
     fillTablePicker();
+    m_designer->restoreLayoutState(QSettings().value(layoutKey()).toByteArray());
     connect(m_designer, &qt::MorvelWidget::selectedFieldChanged, this,
             [this](const std::shared_ptr<FieldDef>& field) { m_removeField->setEnabled(!!field); });
     stateChanged();
@@ -70,18 +74,12 @@ void DesignerWindow::buildActions() {
     table->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-    // The same as pressing the designer's Find buttons, whatever has the focus in the window.
-    auto pressButton = [this](view::Button& button) {
-        return [this, &button] {
-            if (auto* widget = m_designer->binding().widgetAs<QAbstractButton>(button))
-                widget->click();
-        };
-    };
-    control::Morvel& morvel = m_designer->morvel();
+    // The designer's own Find and Find Next: they end the edit in progress and leave the keyboard
+    // on the field list, whatever had the focus in the window.
     QAction* find =
-        edit->addAction(tr("&Find..."), QKeySequence::Find, this, pressButton(morvel.cmdFind));
-    QAction* findNext = edit->addAction(tr("Find &Next"), QKeySequence(Qt::Key_F3), this,
-                                        pressButton(morvel.cmdFindNext));
+        edit->addAction(tr("&Find..."), QKeySequence::Find, m_designer, &qt::MorvelWidget::find);
+    QAction* findNext = edit->addAction(tr("Find &Next"), QKeySequence(Qt::Key_F3), m_designer,
+                                        &qt::MorvelWidget::findNext);
     // The designer's own shortcuts for these keys would make each key ambiguous, and neither
     // would run.
     for (QShortcut* shortcut : m_designer->findChildren<QShortcut*>())
@@ -247,10 +245,21 @@ bool DesignerWindow::save() {
 }
 
 void DesignerWindow::closeEvent(QCloseEvent* event) {
-    if (m_session.settleUnsavedEdits())
-        event->accept();
-    else
+    if (!m_session.settleUnsavedEdits()) {
         event->ignore();
+        return;
+    }
+    QSettings().setValue(layoutKey(), m_designer->saveLayoutState());
+    event->accept();
+}
+
+QString DesignerWindow::layoutKey() const {
+    // One layout per database file, under a key that no path's characters can break.
+    const QByteArray path = QFileInfo(QString::fromStdString(m_session.database().path().string()))
+                                .absoluteFilePath()
+                                .toUtf8();
+    return QStringLiteral("layout/") +
+           QString::fromLatin1(QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex());
 }
 
 } // namespace morvel::app

@@ -62,6 +62,8 @@ private:
     void fillTablePicker();
     void tablePicked(int index);
     void tableLoaded();
+    // Where the designer's layout (column widths, split) is remembered for this database.
+    QString layoutKey() const;
     void stateChanged();
     void allowChangesToggled(bool allowed);
     void removeField();

@@ -63,7 +63,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
-signals:
+Q_SIGNALS:
     void selectedFieldChanged(std::shared_ptr<morvel::FieldDef> field);
 
 private:
