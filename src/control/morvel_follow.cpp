@@ -24,7 +24,8 @@ void Morvel::runAsOwnAction(void (Morvel::*handler)()) {
         // The text is needed only when this action opens the step rather than joining one.
         if (!fields->inStep()) {
             m_stepText.assign("Edit ");
-            m_stepText += m_currentField ? m_currentField->Name() : std::string("fields");
+            m_stepText += m_currentField ? std::string_view(m_currentField->Name())
+                                         : std::string_view("fields");
         }
         step.emplace(fields->beginStep(m_stepText, ChangeOrigin::Person));
     }
