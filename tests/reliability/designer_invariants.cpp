@@ -136,7 +136,8 @@ public:
                                 control::shownNumber(row, stored) == -1 ? 1 : 0, box.name());
                 break;
             }
-            checkFill(row, *list);
+            if (row.fill != catalogue::Fill::None)
+                checkFill(row, *list);
         }
         if (catalogue::isDirectLinkType(m_field.FieldType()))
             linkControls();

@@ -2,9 +2,9 @@
 
 #include "base/error.h"
 #include "catalogue/field_types.h"
-#include "catalogue/setting_boxes.h"
+#include "catalogue/property_keys.h"
 
-#include <algorithm>
+#include <array>
 #include <string_view>
 #include <vector>
 
@@ -12,20 +12,19 @@ namespace morvel::reliability {
 
 namespace {
 
+using namespace catalogue;
+
 // Every key the panel reads or the handlers write, so that loads meet stored values of every
-// kind and edits meet keys that exist already; and one key that no box knows.
-const std::vector<std::string_view>& propertyKeys() {
-    static const std::vector<std::string_view> keys = [] {
-        std::vector<std::string_view> all;
-        for (const catalogue::SettingBox& row : catalogue::settingBoxes())
-            for (std::string_view key : {row.key, row.shownKey})
-                if (!key.empty() && std::find(all.begin(), all.end(), key) == all.end())
-                    all.push_back(key);
-        all.push_back("LDN1036");
-        return all;
-    }();
-    return keys;
-}
+// kind and edits meet keys that exist already. The order is part of every seed's run.
+// clang-format off
+constexpr std::array<std::string_view, 33> kPropertyKeys{
+    kEncryptType, kEncryptKeyLen, kSignType, kSignKeyLen, kSignFields, kDirectSubTable,
+    kDirectSubTableField, kDirectConnStr, kAdoConnStr, kAdoTable, kAdoId, kAdoIdField, kAdoDisp,
+    kAdoDispField, kAdoSelect, kAdoSql, kSubLinkField, kSubLinkTable, kSubLinkParentId,
+    kSubLinkDisplayName, kSubLinkOrderBy, kDirectObjectType, kDirectCoreFilter,
+    kDirectAdditionalFilter, kDirectStatus, kDirectOrderBy, kDirectDisp, kDirectDispCopy, kDirectId,
+    kDirectSelect, kDirectTable, kLinkParent, "LDN1036"};
+// clang-format on
 
 Value randomValue(RandomSource& random) {
     switch (random.between(0, 5)) {
@@ -76,7 +75,7 @@ std::shared_ptr<FieldDef> randomField(RandomSource& random) {
 
     const std::int32_t settings = random.between(0, 8);
     for (std::int32_t i = 0; i < settings; ++i)
-        field->Properties().SetValue(propertyKeys()[random.index(propertyKeys().size())],
+        field->Properties().SetValue(kPropertyKeys[random.index(kPropertyKeys.size())],
                                      randomValue(random), true);
 
     if (catalogue::isListType(field->FieldType()) || random.chance(0.05)) {
