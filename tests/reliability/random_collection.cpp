@@ -142,7 +142,7 @@ FieldWrite randomWrite(RandomSource& random, FieldDef& field) {
         return {FieldMember::CreateOnDemand};
     case 11:
     case 12: {
-        const std::string key(propertyKeys()[random.index(propertyKeys().size())]);
+        const std::string key(kPropertyKeys[random.index(kPropertyKeys.size())]);
         field.Properties().Remove(key);
         return {FieldMember::Properties, key};
     }
@@ -157,7 +157,7 @@ FieldWrite randomWrite(RandomSource& random, FieldDef& field) {
         return {FieldMember::Locales, "DN" + n};
     }
     default: {
-        const std::string key(propertyKeys()[random.index(propertyKeys().size())]);
+        const std::string key(kPropertyKeys[random.index(kPropertyKeys.size())]);
         field.Properties().SetValue(key, randomValue(random), true);
         return {FieldMember::Properties, key};
     }
