@@ -3,10 +3,15 @@
 set(MORVEL_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
                     -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Werror)
 
-# morvel_library(<layer> SOURCES ... DEPENDS ...) builds morvel_<layer>, aliased Morvel::<layer>,
-# exported as Morvel::<layer> to hosts that find_package(Morvel).
+# morvel_library(<layer> SOURCES ... DEPENDS ... [COMPONENT name]) builds morvel_<layer>, aliased
+# Morvel::<layer>, exported as Morvel::<layer> to hosts that find_package(Morvel). Its library and
+# headers install as the component given (default "devel"), so that a packager can leave a part
+# such as the test doubles out: cmake --install <build> --component devel.
 function(morvel_library layer)
-    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+    cmake_parse_arguments(ARG "" "COMPONENT" "SOURCES;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+    if(NOT ARG_COMPONENT)
+        set(ARG_COMPONENT devel)
+    endif()
     set(target morvel_${layer})
     add_library(${target} ${ARG_SOURCES})
     add_library(Morvel::${layer} ALIAS ${target})
@@ -17,11 +22,16 @@ function(morvel_library layer)
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/morvel>)
     target_link_libraries(${target} PUBLIC ${ARG_DEPENDS} PRIVATE ${ARG_PRIVATE_DEPENDS})
-    install(TARGETS ${target} EXPORT MorvelTargets
-        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    # The test doubles export a set of their own, so that the package works without them.
+    set(export MorvelTargets)
+    if(ARG_COMPONENT STREQUAL "testing")
+        set(export MorvelTestingTargets)
+    endif()
+    install(TARGETS ${target} EXPORT ${export}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${ARG_COMPONENT}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${ARG_COMPONENT})
     install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvel/${layer}
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvel/${layer} COMPONENT ${ARG_COMPONENT}
         FILES_MATCHING PATTERN "*.h")
 endfunction()
 

@@ -5,6 +5,7 @@
 #include "testing/in_memory_database.h"
 #include "testing/scripted_modal_host.h"
 #include "testing/scripted_prompter.h"
+#include "testing/snapshot.h"
 #include "view/modal_host.h"
 
 #include <gtest/gtest.h>
@@ -98,18 +99,7 @@ protected:
     void clickRow(std::string_view name) { designer.lst.clickItem(designer.lst.item(name)); }
 
     // The list as one string: each row's text and cells joined by '|', rows by '\n'.
-    std::string listSnapshot() const {
-        std::string out;
-        const auto& lst = designer.lst;
-        for (int i = 1; i <= lst.count(); ++i) {
-            const auto& row = lst.item(i);
-            out += row.text();
-            for (int c = 1; c < lst.columnCount(); ++c)
-                out.append("|").append(row.subItem(c));
-            out += "\n";
-        }
-        return out;
-    }
+    std::string listSnapshot() const { return testkit::listSnapshot(designer.lst); }
 
     testkit::ScriptedPrompter prompter;
     testkit::ScriptedModalHost modalHost;

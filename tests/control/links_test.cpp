@@ -1,5 +1,5 @@
 #include "control/designer_fixture.h"
-#include "control/store_snapshot.h"
+#include "testing/snapshot.h"
 
 namespace morvel::testing {
 namespace {
@@ -7,7 +7,7 @@ namespace {
 class LinkSettings : public DesignerTest {
 protected:
     std::string stored(std::string_view field) const {
-        return storeSnapshot(defs->Item(field)->Properties());
+        return testkit::storeSnapshot(defs->Item(field)->Properties());
     }
     std::string shown(std::initializer_list<const view::Control*> controls) const {
         std::string out;

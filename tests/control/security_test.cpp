@@ -1,5 +1,5 @@
 #include "control/designer_fixture.h"
-#include "control/store_snapshot.h"
+#include "testing/snapshot.h"
 
 namespace morvel::testing {
 namespace {
@@ -18,7 +18,7 @@ protected:
         return out;
     }
     std::string stored(std::int32_t field) const {
-        return storeSnapshot(defs->Item(field)->Properties());
+        return testkit::storeSnapshot(defs->Item(field)->Properties());
     }
     std::shared_ptr<FieldDefs> defs;
 };

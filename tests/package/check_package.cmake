@@ -38,3 +38,16 @@ if(NOT output STREQUAL expected)
     message(FATAL_ERROR "The consumer printed\n[${output}]\ninstead of\n[${expected}]")
 endif()
 message(STATUS "The installed package builds and runs a host: ${output}")
+
+# Without the testing part the package still configures a host, and holds no test double.
+set(devel_prefix ${WORK_DIR}/devel-prefix)
+run("Installing the devel part of ${MORVEL_BUILD_DIR}" ${CMAKE_COMMAND} --install
+    ${MORVEL_BUILD_DIR} --prefix ${devel_prefix} --component devel)
+if(EXISTS ${devel_prefix}/include/morvel/testing)
+    message(FATAL_ERROR "The devel part installed the test doubles' headers.")
+endif()
+string(REPLACE ",testing" "" devel_layers "${LAYERS}")
+run("Configuring the consumer against the devel part" ${CMAKE_COMMAND} -S ${CONSUMER_SOURCE_DIR}
+    -B ${WORK_DIR}/devel-consumer -G ${GENERATOR} -DCMAKE_CXX_COMPILER=${CXX_COMPILER}
+    -DCMAKE_PREFIX_PATH=${devel_prefix} -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
+    -DMORVEL_LAYERS=${devel_layers})

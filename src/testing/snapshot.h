@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+namespace morvel {
+class FieldDefs;
+class PropertyStore;
+namespace view {
+class ListView;
+}
+} // namespace morvel
+
+namespace morvel::testkit {
+
+// One text per state, so that a test compares a whole list, store or collection with one
+// EXPECT_EQ and a failure shows every difference at once.
+
+// A list view: each row's text and its cells joined by '|', one row a line.
+std::string listSnapshot(const view::ListView& list);
+// A property store in stored order: key=value joined by ';', texts quoted, so that a whole
+// number 0 and the text "0" differ.
+std::string storeSnapshot(const PropertyStore& store);
+// A collection in order: per field its name, every member and its three stores, one field a line.
+std::string fieldsSnapshot(const FieldDefs& fields);
+
+} // namespace morvel::testkit
