@@ -28,16 +28,22 @@ std::string storeSnapshot(const PropertyStore& store) {
 }
 
 std::string fieldsSnapshot(const FieldDefs& fields) {
+    // Stores with each value's kind, so that a whole number 1 and the text "1" differ.
+    auto kinded = [](const PropertyStore& store) {
+        std::string text;
+        for (const ListEntry& entry : store)
+            text +=
+                entry.Key + "=" + kindName(entry.Value.kind()) + ":" + entry.Value.toText() + ";";
+        return text;
+    };
     std::string out;
-    for (const auto& field : fields) {
-        const FieldDef& f = *field;
-        out += f.Name() + "|" + std::to_string(f.FieldType()) + "|" + std::to_string(f.Size()) +
-               "|" + f.DisplayName() + "|" + f.Description() + "|" + f.DefaultValue() + "|" +
-               std::to_string(f.Validation()) + "|" + (f.CreateOnDemand() ? "C" : "-") + "|" +
-               f.CtrlEdit() + "|" + f.CtrlReadOnly() + "|" + f.CtrlList() + "|P{" +
-               storeSnapshot(f.Properties()) + "}|L{" + storeSnapshot(f.ListValues()) + "}|T{" +
-               storeSnapshot(f.Locales()) + "}\n";
-    }
+    for (const auto& f : fields)
+        out += f->Name() + "|" + f->Description() + "|" + f->DisplayName() + "|" +
+               std::to_string(f->FieldType()) + "|" + std::to_string(f->Size()) + "|" +
+               f->DefaultValue() + "|" + f->CtrlEdit() + "|" + f->CtrlReadOnly() + "|" +
+               f->CtrlList() + "|" + std::to_string(f->Validation()) + "|" +
+               (f->CreateOnDemand() ? "COD" : "") + "|P:" + kinded(f->Properties()) +
+               "|L:" + kinded(f->ListValues()) + "|T:" + kinded(f->Locales()) + "\n";
     return out;
 }
 

@@ -74,6 +74,8 @@ int main(int argc, char** argv) {
         return kSkipped;
     }
     QApplication app(argc, argv);
+    // A Quit among the random clicks closes the window; the monkey shows it again and goes on.
+    QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setOrganizationName(QStringLiteral("MorvelMonkey"));
     QApplication::setApplicationName(QStringLiteral("morvel-monkey"));
     QCommandLineParser parser;

@@ -2,7 +2,7 @@
 #include "fields/field_defs.h"
 #include "qt/list_view_model.h"
 #include "qt/morvel_widget.h"
-#include "support/describe_fields.h"
+#include "testing/snapshot.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -162,7 +162,7 @@ private slots:
     void lockedBoxesLookReadOnlyAndKeepTheirValues() {
         designer->setCanModifyExisting(false);
         clickRow("Customer");
-        const std::string before = testing::describe(*defs);
+        const std::string before = testkit::fieldsSnapshot(*defs);
         auto& name = widget<QLineEdit>(morvel().txtName);
         auto& type = widget<QComboBox>(morvel().cboType);
         const QColor window = designer->palette().color(QPalette::Window);
@@ -176,7 +176,7 @@ private slots:
         for (int key : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageUp, Qt::Key_T, Qt::Key_F4})
             QTest::keyClick(&type, Qt::Key(key));
         QTest::keyClicks(&name, "Renamed");
-        QCOMPARE(testing::describe(*defs), before);
+        QCOMPARE(testkit::fieldsSnapshot(*defs), before);
         QCOMPARE(type.currentText(), QString("Link"));
         // Allowed again, the same field's boxes look and act as usual.
         designer->setCanModifyExisting(true);

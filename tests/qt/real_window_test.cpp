@@ -3,7 +3,7 @@
 // no window is ever active, the focus stays empty and such faults cannot show.)
 #include "fields/field_defs.h"
 #include "qt/morvel_widget.h"
-#include "support/describe_fields.h"
+#include "testing/snapshot.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -81,14 +81,14 @@ private slots:
     }
 
     void strayKeysAfterFindChangeNoField() {
-        const std::string before = testing::describe(*defs);
+        const std::string before = testkit::fieldsSnapshot(*defs);
         clickRow("Total");
         answerNextInputBox("Notes");
         QTest::keyClick(&tree(), Qt::Key_F, Qt::ControlModifier);
         QCOMPARE(designer->selectedField()->Name(), "Notes");
         QTRY_VERIFY(designer->isActiveWindow() && QApplication::focusWidget());
         strayKeysAndWheel();
-        QCOMPARE(testing::describe(*defs), before);
+        QCOMPARE(testkit::fieldsSnapshot(*defs), before);
         QCOMPARE(QApplication::focusWidget(), &tree());
 
         // Find Next (F3) from a row above repeats the search; the list keeps the keys again.
@@ -97,19 +97,19 @@ private slots:
         QCOMPARE(designer->selectedField()->Name(), "Notes");
         QCOMPARE(QApplication::focusWidget(), &tree());
         strayKeysAndWheel();
-        QCOMPARE(testing::describe(*defs), before);
+        QCOMPARE(testkit::fieldsSnapshot(*defs), before);
     }
 
     void aWheelOverAnUnfocusedDropDownChangesNothing() {
         clickRow("Total");
         auto& type = *designer->binding().widgetAs<QComboBox>(morvel().cboType);
         QVERIFY(!type.hasFocus());
-        const std::string before = testing::describe(*defs);
+        const std::string before = testkit::fieldsSnapshot(*defs);
         const QPointF centre = QRectF(type.rect()).center();
         QWheelEvent wheel(centre, type.mapToGlobal(centre), {}, {0, -120}, Qt::NoButton, {},
                           Qt::NoScrollPhase, false);
         QApplication::sendEvent(&type, &wheel);
-        QCOMPARE(testing::describe(*defs), before);
+        QCOMPARE(testkit::fieldsSnapshot(*defs), before);
     }
 };
 

@@ -58,7 +58,8 @@ TEST(StorageFaults, KilledSavesLeaveTheOldOrTheNewDefinitionExactly) {
         table.fields = first;
         database.save(table);
     }
-    const std::string described[] = {describe(*first), describe(*second)};
+    const std::string described[] = {testkit::fieldsSnapshot(*first),
+                                     testkit::fieldsSnapshot(*second)};
     // One open, load and save as the child makes them, timed here: the kills spread over a few of
     // those, so that some land before a save commits and some after, in a fast build or a
     // sanitized one alike.
@@ -94,7 +95,7 @@ TEST(StorageFaults, KilledSavesLeaveTheOldOrTheNewDefinitionExactly) {
         SchemaDatabase database(path);
         const TableDefinition table = database.load("Orders");
         ASSERT_EQ(integrityCheck(path), "ok") << "after kill " << kill + 1;
-        const std::string stored = describe(*table.fields);
+        const std::string stored = testkit::fieldsSnapshot(*table.fields);
         ASSERT_TRUE(stored == described[0] || stored == described[1])
             << "after kill " << kill + 1 << " the table holds neither definition";
         ++found[stored == described[0] ? 0 : 1];
@@ -175,7 +176,8 @@ TEST(StorageFaults, SecondSaveOfOneTableIsRefusedAndLosesNoEdits) {
     EXPECT_EQ(merged.fields->Item(someField)->DisplayName(), "First's caption");
     EXPECT_EQ(merged.fields->Item(otherField)->Description(), "Second's note");
     EXPECT_TRUE(merged.fields->find("SecondsField"));
-    EXPECT_EQ(describe(*check.load("OrdersSecond").fields), describe(*copy.fields));
+    EXPECT_EQ(testkit::fieldsSnapshot(*check.load("OrdersSecond").fields),
+              testkit::fieldsSnapshot(*copy.fields));
     EXPECT_EQ(integrityCheck(path), "ok");
 }
 
@@ -186,7 +188,7 @@ TEST(StorageFaults, FullDiskDuringSaveKeepsThePreviousDefinition) {
     {
         SchemaDatabase database(path);
         writeSampleSchema(database);
-        before = describe(*database.load("Orders").fields);
+        before = testkit::fieldsSnapshot(*database.load("Orders").fields);
     }
 
     limitDatabasePages(pageCount(path) + 2);
@@ -215,7 +217,7 @@ TEST(StorageFaults, FullDiskDuringSaveKeepsThePreviousDefinition) {
     EXPECT_EQ(edited->Count(), 400) << "the edits stay in memory, to be saved elsewhere";
     EXPECT_EQ(integrityCheck(path), "ok");
     SchemaDatabase database(path);
-    EXPECT_EQ(describe(*database.load("Orders").fields), before);
+    EXPECT_EQ(testkit::fieldsSnapshot(*database.load("Orders").fields), before);
 }
 
 } // namespace

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "fields/field_defs.h"
-#include "support/describe_fields.h"
+#include "testing/snapshot.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <string>
 
 namespace morvel::reliability {
-
-using morvel::testing::describe;
 
 // SQLite's own verdict on the whole file ("ok" when sound), read through a read-only connection.
 std::string integrityCheck(const std::filesystem::path& path);

@@ -2,15 +2,13 @@
 #include "store/schema_database.h"
 #include "store/store_error.h"
 #include "store/temp_dir.h"
-#include "support/describe_fields.h"
+#include "testing/snapshot.h"
 
 #include <gtest/gtest.h>
 #include <limits>
 
 namespace morvel {
 namespace {
-
-using morvel::testing::describe;
 
 TableDefinition richTable() {
     TableDefinition table;
@@ -51,7 +49,7 @@ TEST(RoundTrip, EveryMemberKeyAndKindComesBackInOrder) {
 
     SchemaDatabase reopened(dir.file("db"));
     const TableDefinition loaded = reopened.load("INVOICES");
-    EXPECT_EQ(describe(*loaded.fields), describe(*original.fields));
+    EXPECT_EQ(testkit::fieldsSnapshot(*loaded.fields), testkit::fieldsSnapshot(*original.fields));
     EXPECT_EQ(loaded.info.name, "Invoices");
     EXPECT_EQ(loaded.info.displayName, "Invoices of the year");
     EXPECT_EQ(loaded.info.tableType, 2);
@@ -74,7 +72,8 @@ TEST(RoundTrip, SaveReplacesFieldsAndCatalogueEntry) {
     database.save(edited);
     EXPECT_EQ(edited.info.revision, 2);
 
-    EXPECT_EQ(describe(*database.load("Bills").fields), describe(*edited.fields));
+    EXPECT_EQ(testkit::fieldsSnapshot(*database.load("Bills").fields),
+              testkit::fieldsSnapshot(*edited.fields));
     ASSERT_EQ(database.tables().size(), 1u);
     EXPECT_EQ(database.tables()[0].revision, 2);
     EXPECT_THROW(database.load("Invoices"), NotFoundError);
