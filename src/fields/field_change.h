@@ -5,7 +5,9 @@
 #include "fields/value.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace morvel {
 
@@ -31,8 +33,8 @@ enum class FieldMember : std::uint8_t {
 };
 
 // One change of one field: for a member its old and new value; for one of the three stores the
-// store's own change (key, old and new value); and the step it belongs to. Enough for dirty
-// tracking and for undo.
+// store's own change (key, old and new value, the entry's position, the entries a Clear took);
+// and the step it belongs to. Enough for dirty tracking and for undo.
 struct FieldChange {
     FieldDef& field;
     FieldMember member;
@@ -41,6 +43,8 @@ struct FieldChange {
     Value oldValue;
     Value newValue;
     StepTag step = {};
+    std::int32_t position = 0;
+    std::shared_ptr<const std::vector<ListEntry>> cleared = {};
 };
 
 const char* memberName(FieldMember member);

@@ -135,7 +135,15 @@ void FieldDef::storeChanged(const PropertyStore& store, const StoreChange& chang
         member = FieldMember::Properties;
     else if (&store == &m_listValues)
         member = FieldMember::ListValues;
-    notify({*this, member, change.action, change.key, change.oldValue, change.newValue});
+    notify({*this,
+            member,
+            change.action,
+            change.key,
+            change.oldValue,
+            change.newValue,
+            {},
+            change.position,
+            change.cleared});
 }
 
 void FieldDef::setText(std::string& member, std::string text, FieldMember which) {

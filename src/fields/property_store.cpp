@@ -1,6 +1,10 @@
 #include "fields/property_store.h"
 
+#include "base/error.h"
+
+#include <algorithm>
 #include <functional>
+#include <string>
 #include <unordered_set>
 #include <utility>
 
@@ -91,8 +95,26 @@ bool PropertyStore::SetValue(std::string_view key, Value value, bool addIfMissin
         buildIndex();
     }
     const ListEntry& entry = m_entries[at];
-    notify({StoreChange::Action::Added, entry.Key, Value(), entry.Value});
+    notify({StoreChange::Action::Added, entry.Key, Value(), entry.Value, Count()});
     return true;
+}
+
+void PropertyStore::Insert(std::int32_t position, std::string_view key, Value value) {
+    if (find(key) != m_entries.size())
+        throw InvalidOperationError("The key \"" + std::string(key) + "\" is stored already.");
+    if (position < 1 || position > Count() + 1)
+        throw NotFoundError("There is no position " + std::to_string(position) + " to insert at.");
+    // Without holes a slot is its position less one; the index is rebuilt over the moved slots.
+    if (m_index && m_index->removedCount != 0)
+        compact();
+    const auto at = static_cast<std::size_t>(position - 1);
+    m_entries.insert(m_entries.begin() + static_cast<std::ptrdiff_t>(at),
+                     ListEntry{std::string(key), std::move(value)});
+    m_index.reset();
+    if (m_entries.size() >= kIndexedFrom)
+        buildIndex();
+    const ListEntry& entry = m_entries[at];
+    notify({StoreChange::Action::Added, entry.Key, Value(), entry.Value, position});
 }
 
 Value PropertyStore::GetValue(std::string_view key, Value defaultValue) const {
@@ -113,9 +135,10 @@ void PropertyStore::Remove(std::string_view key) {
     // Out of the index while the entry still holds the key it was hashed by.
     if (m_index)
         m_index->positions.erase(at);
+    const std::int32_t position = positionOf(at);
     ListEntry& entry = m_entries[at];
     StoreChange change{StoreChange::Action::Removed, std::move(entry.Key), std::move(entry.Value),
-                       Value()};
+                       Value(), position};
     if (m_index) {
         m_index->removed[at] = true;
         ++m_index->removedCount;
@@ -131,9 +154,20 @@ void PropertyStore::Clear() {
     m_rewriting = true;
     if (Count() == 0)
         return;
+    if (m_index && m_index->removedCount != 0)
+        compact();
     m_index.reset();
-    m_entries = {};
-    notify({StoreChange::Action::Cleared, {}, Value(), Value()});
+    auto cleared = std::make_shared<const std::vector<ListEntry>>(std::exchange(m_entries, {}));
+    notify({StoreChange::Action::Cleared, {}, Value(), Value(), 0, std::move(cleared)});
+}
+
+std::int32_t PropertyStore::positionOf(std::size_t at) const {
+    std::size_t holes = 0;
+    if (m_index && m_index->removedCount != 0)
+        holes = static_cast<std::size_t>(
+            std::count(m_index->removed.begin(),
+                       m_index->removed.begin() + static_cast<std::ptrdiff_t>(at), true));
+    return static_cast<std::int32_t>(at - holes) + 1;
 }
 
 void PropertyStore::buildIndex() {

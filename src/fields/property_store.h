@@ -68,6 +68,10 @@ public:
     Value GetValue(std::string_view key, Value defaultValue) const;
     // Valid until the next change of the store.
     const ListEntry* Lookup(std::string_view key) const;
+    // Puts an absent key at the 1-based position in enumeration order (Count() + 1 appends), as
+    // undo puts a removed entry back. Linear in the entries. Throws InvalidOperationError when the
+    // key is stored already, NotFoundError when the position is outside 1..Count() + 1.
+    void Insert(std::int32_t position, std::string_view key, Value value);
     // Removing an absent key does nothing.
     void Remove(std::string_view key);
     void Clear();
@@ -92,6 +96,8 @@ private:
     std::size_t nextLive(std::size_t at) const;
     void buildIndex();
     void compact();
+    // The 1-based enumeration position of the entry at slot at.
+    std::int32_t positionOf(std::size_t at) const;
 
     // A store holds one or two entries for most fields: they sit in one small vector, in order,
     // searched linearly. From kIndexedFrom entries on a hash index of their positions keeps

@@ -131,5 +131,46 @@ TEST(PropertyStore, TellsItsObserverEachChangeOnce) {
                                         "Added k >False", "Cleared  >"}));
 }
 
+// Undo puts a removed entry back where it stood and a cleared store back as it was: the
+// notifications tell the place and the entries, with and without the hash index and its holes.
+TEST(PropertyStore, TellsWhereAnEntryWasAndWhatAClearTookSoBothCanBePutBack) {
+    struct Case {
+        int entries;
+        int holes; // removed before the test, leaving holes in an indexed store
+        std::string removedKey;
+        std::int32_t position;
+    };
+    for (const Case& c : {Case{3, 0, "k1", 2}, Case{30, 0, "k20", 21}, Case{30, 5, "k20", 16},
+                          Case{30, 5, "k29", 25}}) {
+        SCOPED_TRACE(c.entries * 100 + c.holes);
+        PropertyStore store;
+        for (int i = 0; i < c.entries; ++i)
+            store.SetValue("k" + std::to_string(i), i % 2 ? Value(i) : Value("t"), true);
+        for (int i = 0; i < c.holes; ++i)
+            store.Remove("k" + std::to_string(i));
+        const std::string before = snapshot(store);
+        struct Kept : StoreObserver {
+            StoreChange last{StoreChange::Action::Changed, {}, {}, {}};
+            void storeChanged(const PropertyStore&, const StoreChange& change) override {
+                last = change;
+            }
+        } kept;
+        store.setObserver(&kept);
+        store.Remove(c.removedKey);
+        EXPECT_EQ(kept.last.position, c.position);
+        store.Insert(kept.last.position, kept.last.key, kept.last.oldValue);
+        EXPECT_EQ(kept.last.position, c.position);
+        EXPECT_EQ(snapshot(store), before);
+        EXPECT_THROW(store.Insert(1, c.removedKey, 1), InvalidOperationError);
+        EXPECT_THROW(store.Insert(store.Count() + 2, "new", 1), NotFoundError);
+        store.Clear();
+        ASSERT_TRUE(kept.last.cleared);
+        PropertyStore refilled;
+        for (const ListEntry& entry : *kept.last.cleared)
+            refilled.SetValue(entry.Key, entry.Value, true);
+        EXPECT_EQ(snapshot(refilled), before);
+    }
+}
+
 } // namespace
 } // namespace morvel
