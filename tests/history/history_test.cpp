@@ -1,7 +1,7 @@
 #include "base/error.h"
 #include "history/history.h"
 #include "reliability/random_collection.h"
-#include "support/describe_fields.h"
+#include "testing/snapshot.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -11,8 +11,6 @@
 
 namespace morvel {
 namespace {
-
-using testing::describe;
 
 class HistoryTest : public ::testing::Test {
 protected:
@@ -73,16 +71,16 @@ TEST_F(HistoryTest, EveryKindOfChangeUndoesAndRedoesExactly) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        const std::string before = describe(fields);
+        const std::string before = testkit::fieldsSnapshot(fields);
         personStep([&] { c.write(fields); });
-        const std::string after = describe(fields);
+        const std::string after = testkit::fieldsSnapshot(fields);
         ASSERT_NE(before, after);
         history.undo();
-        EXPECT_EQ(describe(fields), before);
+        EXPECT_EQ(testkit::fieldsSnapshot(fields), before);
         history.redo();
-        EXPECT_EQ(describe(fields), after);
+        EXPECT_EQ(testkit::fieldsSnapshot(fields), after);
         history.undo();
-        EXPECT_EQ(describe(fields), before);
+        EXPECT_EQ(testkit::fieldsSnapshot(fields), before);
         history.clear();
     }
 }
@@ -115,17 +113,17 @@ TEST_F(HistoryTest, StepsGroupAsTheLibrarySays) {
     ASSERT_EQ(history.count(), 2u);
     EXPECT_EQ(history.text(0), "Change type of Id");
     EXPECT_EQ(history.text(1), "Change Description of Kind");
-    const std::string edited = describe(fields);
+    const std::string edited = testkit::fieldsSnapshot(fields);
     history.setIndex(0);
     EXPECT_EQ(fields.Item("Id")->FieldType(), 200);
     EXPECT_EQ(fields.Item("Id")->Size(), 0);
     history.setIndex(2);
-    EXPECT_EQ(describe(fields), edited);
+    EXPECT_EQ(testkit::fieldsSnapshot(fields), edited);
 }
 
 TEST_F(HistoryTest, KeystrokesInOneBoxMergeUntilTheFocusLeavesOrAnotherBoxIsUsed) {
     auto& id = *fields.Item("Id");
-    const std::string loaded = describe(fields);
+    const std::string loaded = testkit::fieldsSnapshot(fields);
     for (const char* typed : {"C", "Co", "Cod", "Code"})
         personStep([&] { id.SetDisplayName(typed); });
     for (const char* typed : {"A", "Ab"}) // a locale key added, then changed
@@ -149,7 +147,7 @@ TEST_F(HistoryTest, KeystrokesInOneBoxMergeUntilTheFocusLeavesOrAnotherBoxIsUsed
     history.undo();
     EXPECT_EQ(id.LocaleDisplayName("1036"), "");
     history.undo();
-    EXPECT_EQ(describe(fields), loaded);
+    EXPECT_EQ(testkit::fieldsSnapshot(fields), loaded);
     history.setIndex(2);
     EXPECT_EQ(id.DisplayName(), "Code");
     EXPECT_EQ(id.LocaleDisplayName("1036"), "Abc");
@@ -198,7 +196,7 @@ TEST_F(HistoryTest, RandomWritesUndoToTheLoadedAndRedoToTheEdited) {
         reliability::RandomSource random(seed);
         const auto defs = reliability::randomCollection(seed, 8);
         History randomHistory(*defs);
-        const std::string loaded = describe(*defs);
+        const std::string loaded = testkit::fieldsSnapshot(*defs);
         for (int action = 0; action < 60; ++action) {
             std::optional<FieldDefs::Step> step;
             if (random.chance(0.5))
@@ -238,11 +236,11 @@ TEST_F(HistoryTest, RandomWritesUndoToTheLoadedAndRedoToTheEdited) {
                 }
             }
         }
-        const std::string edited = describe(*defs);
+        const std::string edited = testkit::fieldsSnapshot(*defs);
         randomHistory.setIndex(0);
-        EXPECT_EQ(describe(*defs), loaded);
+        EXPECT_EQ(testkit::fieldsSnapshot(*defs), loaded);
         randomHistory.setIndex(randomHistory.count());
-        EXPECT_EQ(describe(*defs), edited);
+        EXPECT_EQ(testkit::fieldsSnapshot(*defs), edited);
     }
 }
 
