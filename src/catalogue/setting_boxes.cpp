@@ -22,17 +22,17 @@ bool subLink(std::int32_t code) {
 bool signature(std::int32_t code) {
     return code == type::Signature;
 }
-constexpr auto directLink = &isDirectLinkType;
-constexpr auto adoLink = &isAdoLinkType;
-constexpr auto directory = &isDirectoryType;
-constexpr auto encrypted = &isEncryptedType;
+constexpr auto kDirectLink = &isDirectLinkType;
+constexpr auto kAdoLink = &isAdoLinkType;
+constexpr auto kDirectory = &isDirectoryType;
+constexpr auto kEncrypted = &isEncryptedType;
 constexpr bool kAnyType = true;
 
 // box, types, key written, key shown, read default, shown as, written on, [any type, fill]
 constexpr std::array<SettingBox, 36> kSettingBoxes{{
     // Encryption: the key lengths offered follow the cipher.
-    {"cboEncryption", encrypted, kEncryptType, kEncryptType, "1", ItemData, Click, kAnyType},
-    {"cboEncryptionKeyLen", encrypted, kEncryptKeyLen, kEncryptKeyLen, "0", ItemData, Click,
+    {"cboEncryption", kEncrypted, kEncryptType, kEncryptType, "1", ItemData, Click, kAnyType},
+    {"cboEncryptionKeyLen", kEncrypted, kEncryptKeyLen, kEncryptKeyLen, "0", ItemData, Click,
      kAnyType, Fill::CipherKeyLengths},
     // Signature: the key lengths offered follow the hash.
     {"cboSignatureHash", signature, kSignType, kSignType, "1", ItemData, Click, kAnyType},
@@ -46,35 +46,35 @@ constexpr std::array<SettingBox, 36> kSettingBoxes{{
     {"cboSubTable", subTable, kDirectSubTable, kDirectSubTable, "0", ItemData, Click, kAnyType,
      Fill::SubTables},
     // Database page of the directory types: the connection string alone.
-    {"txtConnStr", directory, kDirectConnStr, kDirectConnStr, "", Text, Change},
+    {"txtConnStr", kDirectory, kDirectConnStr, kDirectConnStr, "", Text, Change},
     // Database page of the ADO links. Three boxes write another key than they show.
-    {"txtConnStr", adoLink, kAdoConnStr, kAdoConnStr, "", Text, Change},
-    {"txtTable", adoLink, kAdoTable, kAdoTable, "", Text, Change},
-    {"txtIDField", adoLink, kAdoId, kAdoIdField, "", Text, Change},
-    {"txtDispField", adoLink, kAdoDisp, kAdoDispField, "", Text, Change},
-    {"txtSQL", adoLink, kAdoSelect, kAdoSql, "", Text, Change},
+    {"txtConnStr", kAdoLink, kAdoConnStr, kAdoConnStr, "", Text, Change},
+    {"txtTable", kAdoLink, kAdoTable, kAdoTable, "", Text, Change},
+    {"txtIDField", kAdoLink, kAdoId, kAdoIdField, "", Text, Change},
+    {"txtDispField", kAdoLink, kAdoDisp, kAdoDispField, "", Text, Change},
+    {"txtSQL", kAdoLink, kAdoSelect, kAdoSql, "", Text, Change},
     // The database page's boxes write the direct links' keys too, though a direct link's page is
     // the link page, which shows them.
-    {"txtConnStr", directLink, kDirectConnStr, {}, {}, Text, Change},
-    {"txtTable", directLink, kDirectTable, {}, {}, Text, Change},
-    {"txtIDField", directLink, kDirectId, {}, {}, Text, Change},
-    {"txtDispField", directLink, kDirectDisp, {}, {}, Text, Change},
-    {"txtSQL", directLink, kDirectSelect, {}, {}, Text, Change},
+    {"txtConnStr", kDirectLink, kDirectConnStr, {}, {}, Text, Change},
+    {"txtTable", kDirectLink, kDirectTable, {}, {}, Text, Change},
+    {"txtIDField", kDirectLink, kDirectId, {}, {}, Text, Change},
+    {"txtDispField", kDirectLink, kDirectDisp, {}, {}, Text, Change},
+    {"txtSQL", kDirectLink, kDirectSelect, {}, {}, Text, Change},
     // Link page of "Link" and "Multiple Link".
-    {"txtObjectType", directLink, kDirectObjectType, kDirectObjectType, "", Number, Change},
-    {"txtCoreFilter", directLink, kDirectCoreFilter, kDirectCoreFilter, "", Text, Change},
-    {"txtAdditionalFilter", directLink, kDirectAdditionalFilter, kDirectAdditionalFilter, "", Text,
+    {"txtObjectType", kDirectLink, kDirectObjectType, kDirectObjectType, "", Number, Change},
+    {"txtCoreFilter", kDirectLink, kDirectCoreFilter, kDirectCoreFilter, "", Text, Change},
+    {"txtAdditionalFilter", kDirectLink, kDirectAdditionalFilter, kDirectAdditionalFilter, "", Text,
      Change},
-    {"txtStatus", directLink, kDirectStatus, kDirectStatus, "", Number, Change},
-    {"txtOrderField", directLink, kDirectOrderBy, kDirectOrderBy, "DisplayName", Text, Change},
-    {"txtLinkDisplayField", directLink, kDirectDisp, kDirectDisp, "DisplayName", Text, Change},
-    {"txtLinkDisplayField", directLink, kDirectDispCopy, {}, {}, Text, Change},
-    {"txtLinkIDField", directLink, kDirectId, kDirectId, "zrID", Text, Change},
-    {"txtLinkSelect", directLink, kDirectSelect, kDirectSelect, "", Text, Change},
-    {"txtLinkTableName", directLink, kDirectTable, kDirectTable, "", Text, Change},
-    {"cboLinkTableName", directLink, kDirectTable, kDirectTable, "", Text, Change, !kAnyType,
+    {"txtStatus", kDirectLink, kDirectStatus, kDirectStatus, "", Number, Change},
+    {"txtOrderField", kDirectLink, kDirectOrderBy, kDirectOrderBy, "DisplayName", Text, Change},
+    {"txtLinkDisplayField", kDirectLink, kDirectDisp, kDirectDisp, "DisplayName", Text, Change},
+    {"txtLinkDisplayField", kDirectLink, kDirectDispCopy, {}, {}, Text, Change},
+    {"txtLinkIDField", kDirectLink, kDirectId, kDirectId, "zrID", Text, Change},
+    {"txtLinkSelect", kDirectLink, kDirectSelect, kDirectSelect, "", Text, Change},
+    {"txtLinkTableName", kDirectLink, kDirectTable, kDirectTable, "", Text, Change},
+    {"cboLinkTableName", kDirectLink, kDirectTable, kDirectTable, "", Text, Change, !kAnyType,
      Fill::LinkTables},
-    {"chkLinkParent", directLink, kLinkParent, kLinkParent, "False", Checked, Click, kAnyType},
+    {"chkLinkParent", kDirectLink, kLinkParent, kLinkParent, "False", Checked, Click, kAnyType},
     // Sub link: the linking field is picked from the collection's links.
     {"cboLinkFields", subLink, kSubLinkField, kSubLinkField, "", EntryText, Click, kAnyType,
      Fill::LinkFields},

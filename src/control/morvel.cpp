@@ -158,15 +158,15 @@ morvel::FieldDef& Morvel::currentField() const {
     return *m_currentField;
 }
 
-void Morvel::setCell(std::string_view columnKey, std::string text) {
+void Morvel::setCell(std::string_view columnKey, const std::string& text) {
     if (!m_currentRow)
         throw InvalidOperationError("No row of the field list is current.");
     // "Name" is the row's own text; every other column is a sub item.
     if (columnKey == "Name") {
-        m_currentRow->setText(std::move(text));
+        m_currentRow->setText(text);
         return;
     }
-    m_currentRow->setSubItem(lst.columnIndex(columnKey) - 1, std::move(text));
+    m_currentRow->setSubItem(lst.columnIndex(columnKey) - 1, text);
 }
 
 void Morvel::enableBasicControls(bool enabled) {

@@ -185,7 +185,7 @@ private:
     // The field shown in the panel; NoCurrentFieldError when there is none.
     morvel::FieldDef& currentField() const;
     // Sets the cell of the current row in the column with that key.
-    void setCell(std::string_view columnKey, std::string text);
+    void setCell(std::string_view columnKey, const std::string& text);
     void enableBasicControls(bool enabled);
     // Makes the field (or none) and its row current, raising currentFieldChanged on a change.
     void setCurrent(FieldDefPtr field, view::ListItem* row);

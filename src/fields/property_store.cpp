@@ -147,7 +147,7 @@ void PropertyStore::Remove(std::string_view key) {
     } else {
         m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(at));
     }
-    notify(std::move(change));
+    notify(change);
 }
 
 void PropertyStore::Clear() {
@@ -189,7 +189,7 @@ void PropertyStore::compact() {
         buildIndex();
 }
 
-void PropertyStore::notify(StoreChange change) const {
+void PropertyStore::notify(const StoreChange& change) const {
     if (m_observer)
         m_observer->storeChanged(*this, change);
 }

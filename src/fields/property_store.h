@@ -89,7 +89,7 @@ public:
 private:
     struct Index;
 
-    void notify(StoreChange change) const;
+    void notify(const StoreChange& change) const;
     // The position of key in m_entries, or m_entries.size().
     std::size_t find(std::string_view key) const;
     // The first position from at on that holds an entry.

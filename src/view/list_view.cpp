@@ -178,7 +178,7 @@ bool ListView::keyDown(std::int32_t keyCode, std::int32_t shift) {
     return true;
 }
 
-bool ListView::editLabel(ListItem& item, std::string text) {
+bool ListView::editLabel(ListItem& item, const std::string& text) {
     bool cancel = false;
     AfterLabelEdit.notify(item, text, cancel);
     if (cancel)

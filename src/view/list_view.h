@@ -114,7 +114,7 @@ public:
     bool clickItem(ListItem& item);
     bool keyDown(std::int32_t keyCode, std::int32_t shift = 0);
     // Ends an in-place edit of the row's text: AfterLabelEdit may cancel it.
-    bool editLabel(ListItem& item, std::string text);
+    bool editLabel(ListItem& item, const std::string& text);
 
     Signal<ListItem&> ItemClick;
     Signal<> Click;

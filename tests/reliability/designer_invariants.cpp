@@ -159,6 +159,7 @@ private:
         if (row.fill != Fill::LinkFields)
             return;
         std::vector<std::string> shown;
+        shown.reserve(static_cast<std::size_t>(list.listCount()));
         for (std::int32_t i = 0; i < list.listCount(); ++i)
             shown.push_back(list.list(i));
         std::vector<std::string> links;

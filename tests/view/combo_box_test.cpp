@@ -11,6 +11,7 @@ namespace {
 
 std::vector<std::string> entries(const ComboBox& box) {
     std::vector<std::string> out;
+    out.reserve(static_cast<std::size_t>(box.listCount()));
     for (int i = 0; i < box.listCount(); ++i)
         out.push_back(box.list(i) + "=" + std::to_string(box.itemData(i)));
     return out;
