@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/probe_table.h"
 #include "fields/field_id.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace morvel::view {
 class ListItem;
@@ -12,8 +12,8 @@ class ListItem;
 
 namespace morvel::control {
 
-// The field list's rows by field identity: open addressing with linear probing over one array of
-// {identity, row}, so that indexing a refill of 100,000 fields allocates once, not once a row.
+// The field list's rows by field identity, in a ProbeTable of {identity, row}, so that indexing
+// a refill of 100,000 fields allocates once, not once a row.
 class FieldRowIndex {
 public:
     // The row of the field, or null.
@@ -22,22 +22,24 @@ public:
     void set(FieldId id, view::ListItem& row);
     // Forgetting a field that has no row does nothing.
     void erase(FieldId id);
-    void clear();
-    void reserve(std::size_t rows);
+    void clear() { m_table.clear(); }
+    void reserve(std::size_t rows) { m_table.reserve(rows); }
 
 private:
     struct Slot {
         std::uint64_t id = 0; // 0: empty
         view::ListItem* row = nullptr;
     };
+    struct SlotTraits {
+        static bool isEmpty(const Slot& slot) { return slot.id == 0; }
+        static std::size_t hashOf(const Slot& slot) { return hash(slot.id); }
+    };
+    // Identities are handed out in sequence: a multiplicative hash spreads neighbours apart.
+    static std::size_t hash(std::uint64_t id) {
+        return static_cast<std::size_t>((id * 0x9E3779B97F4A7C15ull) >> 16);
+    }
 
-    std::size_t home(std::uint64_t id) const;
-    std::size_t mask() const { return m_slots.size() - 1; }
-    void rehash(std::size_t slots);
-
-    // A power of two in size, or empty; at most 8 in 10 full.
-    std::vector<Slot> m_slots;
-    std::size_t m_count = 0;
+    ProbeTable<Slot, SlotTraits> m_table;
 };
 
 } // namespace morvel::control
