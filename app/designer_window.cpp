@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QCryptographicHash>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScrollBar>
@@ -55,6 +56,7 @@ DesignerWindow::DesignerWindow(std::shared_ptr<SchemaDatabase> database, view::P
 }
 
 DesignerWindow::~DesignerWindow() {
+    qApp->removeEventFilter(this);
     m_sessionWatch.clear();
 }
 
@@ -74,6 +76,19 @@ void DesignerWindow::buildActions() {
     table->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    m_undo = edit->addAction(tr("&Undo"), QKeySequence::Undo, this, [this] { stepBack(false); });
+    m_redo = edit->addAction(tr("&Redo"), this, [this] { stepBack(true); });
+    m_redo->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    // A text box takes these keys for its own undo, which would write the box's old text as a new
+    // step; in this window they are the table's.
+    qApp->installEventFilter(this);
+    // Keystrokes in one box are one step; in the next box (or the same one again) a new one.
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (History* history = m_session.history())
+            history->breakMerge();
+    });
+    edit->addSeparator();
     // The designer's own Find and Find Next: they end the edit in progress and leave the keyboard
     // on the field list, whatever had the focus in the window.
     QAction* find =
@@ -208,6 +223,7 @@ void DesignerWindow::stateChanged() {
             ? tr(kReadOnlyReason)
             : tr("Save the table (%1)").arg(m_save->shortcut().toString(QKeySequence::NativeText)));
     m_revert->setEnabled(open);
+    undoRedoChanged();
     m_removeField->setEnabled(!!m_designer->selectedField());
     const QString name = open ? toQString(table().info.displayName) : tr("no table");
     const QString file = toQString(m_session.database().path().filename().string());
@@ -216,6 +232,42 @@ void DesignerWindow::stateChanged() {
                             QApplication::applicationDisplayName()));
     if (open && m_tablePicker->currentData().toString() != toQString(table().info.name))
         fillTablePicker();
+}
+
+void DesignerWindow::undoRedoChanged() {
+    const History* history = m_session.history();
+    const bool canUndo = history && history->canUndo();
+    const bool canRedo = history && history->canRedo();
+    m_undo->setEnabled(canUndo);
+    m_redo->setEnabled(canRedo);
+    m_undo->setText(canUndo ? tr("&Undo %1").arg(toQString(std::string(history->undoText())))
+                            : tr("&Undo"));
+    m_redo->setText(canRedo ? tr("&Redo %1").arg(toQString(std::string(history->redoText())))
+                            : tr("&Redo"));
+}
+
+void DesignerWindow::stepBack(bool redo) {
+    History* history = m_session.history();
+    if (!history)
+        return;
+    history->breakMerge();
+    qt::guarded(this, [&] {
+        if (redo ? history->canRedo() : history->canUndo())
+            redo ? history->redo() : history->undo();
+    });
+}
+
+bool DesignerWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride || !watched->isWidgetType() ||
+        !isAncestorOf(static_cast<QWidget*>(watched)))
+        return false;
+    auto* key = static_cast<QKeyEvent*>(event);
+    const QKeySequence pressed(key->keyCombination());
+    if (pressed != m_undo->shortcut() && !m_redo->shortcuts().contains(pressed))
+        return false;
+    // Left unaccepted and kept from the box, the key goes on to the window's shortcuts.
+    key->ignore();
+    return true;
 }
 
 void DesignerWindow::allowChangesToggled(bool allowed) {

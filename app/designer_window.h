@@ -21,8 +21,9 @@ namespace morvel::app {
 // message box goes through the prompter (real boxes by default, a scripted one in tests).
 //
 // The title carries a modified marker while the table has unsaved edits and says "[read only]"
-// for a database that cannot be written. "Allow changes to existing fields" starts off with every
-// table and is not remembered; the status bar says so while it is on.
+// for a database that cannot be written. Undo and Redo walk the open table's history, which is
+// new with every load; the marker follows the history's saved point. "Allow changes to existing
+// fields" starts off with every table and is not remembered; the status bar says so while it is on.
 class DesignerWindow : public QMainWindow {
     Q_OBJECT
 
@@ -49,6 +50,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     // Where the person is in the field list: the field shown and the list's scroll position.
@@ -65,6 +67,9 @@ private:
     // Where the designer's layout (column widths, split) is remembered for this database.
     QString layoutKey() const;
     void stateChanged();
+    void undoRedoChanged();
+    // Undoes (or redoes) the last step of the table's history.
+    void stepBack(bool redo);
     void allowChangesToggled(bool allowed);
     void removeField();
     Place place() const;
@@ -79,6 +84,8 @@ private:
     commands::FieldCommands m_fields;
     std::int32_t m_shownTable = 0;
     QComboBox* m_tablePicker = nullptr;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
     QAction* m_save = nullptr;
     QAction* m_saveAsNew = nullptr;
     QAction* m_revert = nullptr;

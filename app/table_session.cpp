@@ -44,14 +44,15 @@ bool TableSession::open(std::string_view name) {
 
 void TableSession::load(TableDefinition table) {
     m_watch.clear();
+    m_history.reset();
     m_table = std::move(table);
     loaded.notify();
-    // Watched only from here on: handing the fields to the designer is no edit.
-    auto edited = [this](auto&&...) { setModified(true); };
-    FieldDefs& fields = *m_table.fields;
-    m_watch += fields.changed.connect(edited);
-    m_watch += fields.AfterAdd.connect(edited);
-    m_watch += fields.AfterRemove.connect(edited);
+    // Recorded only from here on: handing the fields to the designer is no edit.
+    m_history = std::make_unique<History>(*m_table.fields);
+    m_watch += m_history->stateChanged.connect([this] {
+        m_modified = !m_history->isClean();
+        stateChanged.notify();
+    });
     m_modified = false;
     stateChanged.notify();
 }
@@ -61,6 +62,11 @@ void TableSession::setModified(bool modified) {
         return;
     m_modified = modified;
     stateChanged.notify();
+}
+
+void TableSession::markSaved() {
+    m_history->setClean();
+    setModified(false);
 }
 
 void TableSession::commitEdit() const {
@@ -92,7 +98,7 @@ bool TableSession::save() {
              view::MsgBoxIcon::Exclamation);
         return false;
     }
-    setModified(false);
+    markSaved();
     return true;
 }
 
@@ -149,7 +155,7 @@ bool TableSession::saveAsNew() {
             return false;
         }
         m_table.info = copy.info;
-        setModified(false);
+        markSaved();
         stateChanged.notify();
         return true;
     }

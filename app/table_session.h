@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/signal.h"
+#include "history/history.h"
 #include "store/schema_database.h"
 #include "store/store_error.h"
 #include "view/prompter.h"
@@ -24,8 +25,13 @@ public:
     const std::shared_ptr<SchemaDatabase>& sharedDatabase() const { return m_database; }
     const TableDefinition& table() const { return m_table; }
     bool isOpen() const { return !m_table.info.name.empty(); }
+    // Unsaved edits: the fields are not where the last load or save left them, so undoing back to
+    // the saved state clears it and redoing sets it again.
     bool isModified() const { return m_modified; }
     bool isReadOnly() const { return m_readOnly; }
+
+    // The undo history of the table open, new with every load; null while none is open.
+    History* history() const { return m_history.get(); }
 
     // Run before anything reads the fields: the designer ends the edit in progress.
     void setCommitEdit(std::function<void()> commitEdit) { m_commitEdit = std::move(commitEdit); }
@@ -47,12 +53,14 @@ public:
 
     // A table was loaded (or loaded again): the host hands its fields to the designer.
     Signal<> loaded;
-    // The modified state, the table's name or the read-only state changed.
+    // The modified state, the table's name, the read-only state or the undo history changed.
     Signal<> stateChanged;
 
 private:
     void load(TableDefinition table);
     void setModified(bool modified);
+    // The present state is the stored one.
+    void markSaved();
     void commitEdit() const;
     bool offerWaysOut();
     void tell(const std::string& message, view::MsgBoxIcon icon);
@@ -62,6 +70,8 @@ private:
     view::Prompter& m_prompter;
     std::function<void()> m_commitEdit;
     TableDefinition m_table;
+    // Declared after the table: it watches the table's fields and must go first.
+    std::unique_ptr<History> m_history;
     Connections m_watch;
     bool m_modified = false;
     bool m_readOnly = false;

@@ -16,7 +16,10 @@ FieldCommands::FieldPtr FieldCommands::newField() {
     const auto& fields = m_designer.FieldDefs();
     if (!fields)
         return nullptr;
-    return fields->Add(newFieldName(*fields), kNewFieldType);
+    const std::string name = newFieldName(*fields);
+    // Named for the history, so that Undo says what it takes back.
+    const FieldDefs::Step step = fields->beginStep("Add field " + name, ChangeOrigin::Host);
+    return fields->Add(name, kNewFieldType);
 }
 
 bool FieldCommands::removeCurrentField() {
@@ -33,7 +36,10 @@ bool FieldCommands::removeCurrentField() {
     // The row's place, read from the list (keyed, no scan of the collection).
     const view::ListItem* row = m_designer.lst.find(name);
     const std::int32_t place = row ? row->index() : 1;
-    fields->Remove(name);
+    {
+        const FieldDefs::Step step = fields->beginStep("Remove field " + name, ChangeOrigin::Host);
+        fields->Remove(name);
+    }
     // The designer shows its first row after a removal; a person expects to stay where they were.
     const std::int32_t count = m_designer.lst.count();
     if (count == 0)

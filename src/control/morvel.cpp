@@ -39,9 +39,14 @@ template <void (Morvel::*Handler)()> void Morvel::unlessLoading() {
 }
 
 void Morvel::wireEvents() {
-    auto on = [this](Signal<>& event, void (Morvel::*handler)()) {
-        m_wiring += event.connect([this, handler] { runAsOwnAction(handler); });
+    // The third argument names the step in the undo history as a person would: "Type in
+    // Display Name" (of the field shown). Handlers that write nothing of a field go unnamed.
+    auto on = [this](Signal<>& event, void (Morvel::*handler)(), std::string what = {}) {
+        m_wiring += event.connect(
+            [this, handler, what = std::move(what)] { runAsOwnAction(handler, what); });
     };
+    auto typeIn = [](const view::Label& label) { return "Type in " + label.caption(); };
+    auto change = [](const std::string& caption) { return "Change " + caption; };
 
     // Showing a field is not editing it: the handlers that write to the field or mirror into its
     // row are wired through unlessLoading, which does not run them while the panel is being
@@ -56,61 +61,92 @@ void Morvel::wireEvents() {
     on(cmdFindNext.Click, &Morvel::cmdFindNext_Click);
 
     // General page.
-    on(txtName.Change, &Morvel::txtName_Change);
-    on(txtName.LostFocus, &Morvel::unlessLoading<&Morvel::txtName_LostFocus>);
-    on(txtDisplayName.Change, &Morvel::unlessLoading<&Morvel::txtDisplayName_Change>);
-    on(cboType.Click, &Morvel::cboType_Click);
-    on(cmdList.Click, &Morvel::cmdList_Click);
-    on(txtDescription.Change, &Morvel::unlessLoading<&Morvel::txtDescription_Change>);
-    on(txtDefault.Change, &Morvel::unlessLoading<&Morvel::txtDefault_Change>);
-    on(txtSize.Change, &Morvel::unlessLoading<&Morvel::txtSize_Change>);
-    on(chkCreateOnDemand.Click, &Morvel::unlessLoading<&Morvel::chkCreateOnDemand_Click>);
-    on(txtCtrlReadOnly.Change, &Morvel::unlessLoading<&Morvel::txtCtrlReadOnly_Change>);
-    on(txtCtrlReadOnly.LostFocus, &Morvel::unlessLoading<&Morvel::txtCtrlReadOnly_LostFocus>);
-    on(txtCtrlEdit.Change, &Morvel::unlessLoading<&Morvel::txtCtrlEdit_Change>);
-    on(txtCtrlEdit.LostFocus, &Morvel::unlessLoading<&Morvel::txtCtrlEdit_LostFocus>);
-    on(txtCtrlList.Change, &Morvel::unlessLoading<&Morvel::txtCtrlList_Change>);
-    on(cboValidation.Click, &Morvel::unlessLoading<&Morvel::cboValidation_Click>);
-    on(cmdLocale.Click, &Morvel::cmdLocale_Click);
+    on(txtName.Change, &Morvel::txtName_Change, typeIn(lblName));
+    on(txtName.LostFocus, &Morvel::unlessLoading<&Morvel::txtName_LostFocus>, typeIn(lblName));
+    on(txtDisplayName.Change, &Morvel::unlessLoading<&Morvel::txtDisplayName_Change>,
+       typeIn(lblDisplayName));
+    on(cboType.Click, &Morvel::cboType_Click, std::string("Change type"));
+    on(cmdList.Click, &Morvel::cmdList_Click, std::string("Edit list values"));
+    on(txtDescription.Change, &Morvel::unlessLoading<&Morvel::txtDescription_Change>,
+       typeIn(lblDescription));
+    on(txtDefault.Change, &Morvel::unlessLoading<&Morvel::txtDefault_Change>, typeIn(lblDefault));
+    on(txtSize.Change, &Morvel::unlessLoading<&Morvel::txtSize_Change>, typeIn(lblSize));
+    on(chkCreateOnDemand.Click, &Morvel::unlessLoading<&Morvel::chkCreateOnDemand_Click>,
+       change(chkCreateOnDemand.caption()));
+    on(txtCtrlReadOnly.Change, &Morvel::unlessLoading<&Morvel::txtCtrlReadOnly_Change>,
+       typeIn(lblCtrlReadOnly));
+    on(txtCtrlReadOnly.LostFocus, &Morvel::unlessLoading<&Morvel::txtCtrlReadOnly_LostFocus>,
+       typeIn(lblCtrlReadOnly));
+    on(txtCtrlEdit.Change, &Morvel::unlessLoading<&Morvel::txtCtrlEdit_Change>,
+       typeIn(lblCtrlEdit));
+    on(txtCtrlEdit.LostFocus, &Morvel::unlessLoading<&Morvel::txtCtrlEdit_LostFocus>,
+       typeIn(lblCtrlEdit));
+    on(txtCtrlList.Change, &Morvel::unlessLoading<&Morvel::txtCtrlList_Change>,
+       typeIn(lblCtrlList));
+    on(cboValidation.Click, &Morvel::unlessLoading<&Morvel::cboValidation_Click>,
+       change(lblValidation.caption()));
+    on(cmdLocale.Click, &Morvel::cmdLocale_Click, std::string("Edit locales"));
 
     // Link page.
-    on(txtObjectType.Change, &Morvel::txtObjectType_Change);
-    on(txtStatus.Change, &Morvel::unlessLoading<&Morvel::txtStatus_Change>);
-    on(cboLinkTableName.Change, &Morvel::unlessLoading<&Morvel::cboLinkTableName_Change>);
-    on(cboLinkTableName.Click, &Morvel::unlessLoading<&Morvel::cboLinkTableName_Click>);
-    on(txtLinkTableName.Change, &Morvel::unlessLoading<&Morvel::txtLinkTableName_Change>);
-    on(txtLinkIDField.Change, &Morvel::unlessLoading<&Morvel::txtLinkIDField_Change>);
-    on(txtLinkDisplayField.Change, &Morvel::unlessLoading<&Morvel::txtLinkDisplayField_Change>);
-    on(txtLinkSelect.Change, &Morvel::unlessLoading<&Morvel::txtLinkSelect_Change>);
-    on(txtCoreFilter.Change, &Morvel::unlessLoading<&Morvel::txtCoreFilter_Change>);
-    on(txtAdditionalFilter.Change, &Morvel::unlessLoading<&Morvel::txtAdditionalFilter_Change>);
-    on(txtOrderField.Change, &Morvel::unlessLoading<&Morvel::txtOrderField_Change>);
-    on(chkLinkParent.Click, &Morvel::unlessLoading<&Morvel::chkLinkParent_Click>);
+    on(txtObjectType.Change, &Morvel::txtObjectType_Change, typeIn(lblObjectType));
+    on(txtStatus.Change, &Morvel::unlessLoading<&Morvel::txtStatus_Change>, typeIn(lblStatus));
+    on(cboLinkTableName.Change, &Morvel::unlessLoading<&Morvel::cboLinkTableName_Change>,
+       typeIn(lblLinkTableName));
+    on(cboLinkTableName.Click, &Morvel::unlessLoading<&Morvel::cboLinkTableName_Click>,
+       change(lblLinkTableName.caption()));
+    on(txtLinkTableName.Change, &Morvel::unlessLoading<&Morvel::txtLinkTableName_Change>,
+       typeIn(lblLinkTableName));
+    on(txtLinkIDField.Change, &Morvel::unlessLoading<&Morvel::txtLinkIDField_Change>,
+       typeIn(lblLinkIDField));
+    on(txtLinkDisplayField.Change, &Morvel::unlessLoading<&Morvel::txtLinkDisplayField_Change>,
+       typeIn(lblLinkDisplayField));
+    on(txtLinkSelect.Change, &Morvel::unlessLoading<&Morvel::txtLinkSelect_Change>,
+       typeIn(lblLinkSelect));
+    on(txtCoreFilter.Change, &Morvel::unlessLoading<&Morvel::txtCoreFilter_Change>,
+       typeIn(lblCoreFilter));
+    on(txtAdditionalFilter.Change, &Morvel::unlessLoading<&Morvel::txtAdditionalFilter_Change>,
+       typeIn(lblAdditionalFilter));
+    on(txtOrderField.Change, &Morvel::unlessLoading<&Morvel::txtOrderField_Change>,
+       typeIn(lblOrderField));
+    on(chkLinkParent.Click, &Morvel::unlessLoading<&Morvel::chkLinkParent_Click>,
+       change(chkLinkParent.caption()));
 
     // Database page.
-    on(txtConnStr.Change, &Morvel::unlessLoading<&Morvel::txtConnStr_Change>);
-    on(txtTable.Change, &Morvel::unlessLoading<&Morvel::txtTable_Change>);
-    on(txtIDField.Change, &Morvel::unlessLoading<&Morvel::txtIDField_Change>);
-    on(txtDispField.Change, &Morvel::unlessLoading<&Morvel::txtDispField_Change>);
-    on(txtSQL.Change, &Morvel::unlessLoading<&Morvel::txtSQL_Change>);
+    on(txtConnStr.Change, &Morvel::unlessLoading<&Morvel::txtConnStr_Change>, typeIn(lblConnStr));
+    on(txtTable.Change, &Morvel::unlessLoading<&Morvel::txtTable_Change>, typeIn(lblTable));
+    on(txtIDField.Change, &Morvel::unlessLoading<&Morvel::txtIDField_Change>, typeIn(lblIDField));
+    on(txtDispField.Change, &Morvel::unlessLoading<&Morvel::txtDispField_Change>,
+       typeIn(lblDispField));
+    on(txtSQL.Change, &Morvel::unlessLoading<&Morvel::txtSQL_Change>, typeIn(lblSQL));
 
     // Sub table and sub link pages.
-    on(cboSubTable.Click, &Morvel::unlessLoading<&Morvel::cboSubTable_Click>);
-    on(txtSubTable.Change, &Morvel::unlessLoading<&Morvel::txtSubTable_Change>);
-    on(txtSubTableFieldID.Change, &Morvel::unlessLoading<&Morvel::txtSubTableFieldID_Change>);
-    on(cboLinkFields.Click, &Morvel::unlessLoading<&Morvel::cboLinkFields_Click>);
-    on(txtSubLinkTable.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkTable_LostFocus>);
-    on(txtSubLinkPIDField.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkPIDField_LostFocus>);
+    on(cboSubTable.Click, &Morvel::unlessLoading<&Morvel::cboSubTable_Click>,
+       change(lblSubTable.caption()));
+    on(txtSubTable.Change, &Morvel::unlessLoading<&Morvel::txtSubTable_Change>,
+       typeIn(lblSubTable));
+    on(txtSubTableFieldID.Change, &Morvel::unlessLoading<&Morvel::txtSubTableFieldID_Change>,
+       typeIn(lblSubTableFieldID));
+    on(cboLinkFields.Click, &Morvel::unlessLoading<&Morvel::cboLinkFields_Click>,
+       change(lblLinkFields.caption()));
+    on(txtSubLinkTable.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkTable_LostFocus>,
+       typeIn(lblSubLinkTable));
+    on(txtSubLinkPIDField.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkPIDField_LostFocus>,
+       typeIn(lblSubLinkPIDField));
     on(txtSubLinkDisplayName.LostFocus,
-       &Morvel::unlessLoading<&Morvel::txtSubLinkDisplayName_LostFocus>);
-    on(txtSubLinkOrderBy.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkOrderBy_LostFocus>);
+       &Morvel::unlessLoading<&Morvel::txtSubLinkDisplayName_LostFocus>,
+       typeIn(lblSubLinkDisplayName));
+    on(txtSubLinkOrderBy.LostFocus, &Morvel::unlessLoading<&Morvel::txtSubLinkOrderBy_LostFocus>,
+       typeIn(lblSubLinkOrderBy));
 
     // Signature and encryption pages.
-    on(cboSignatureHash.Click, &Morvel::cboSignatureHash_Click);
-    on(cboSignatureKeyLen.Click, &Morvel::unlessLoading<&Morvel::cboSignatureKeyLen_Click>);
-    on(txtSignatureFields.LostFocus, &Morvel::unlessLoading<&Morvel::txtSignatureFields_LostFocus>);
-    on(cboEncryption.Click, &Morvel::cboEncryption_Click);
-    on(cboEncryptionKeyLen.Click, &Morvel::unlessLoading<&Morvel::cboEncryptionKeyLen_Click>);
+    on(cboSignatureHash.Click, &Morvel::cboSignatureHash_Click, change(lblSignatureHash.caption()));
+    on(cboSignatureKeyLen.Click, &Morvel::unlessLoading<&Morvel::cboSignatureKeyLen_Click>,
+       change(lblSignatureKeyLen.caption()));
+    on(txtSignatureFields.LostFocus, &Morvel::unlessLoading<&Morvel::txtSignatureFields_LostFocus>,
+       typeIn(lblSignatureFields));
+    on(cboEncryption.Click, &Morvel::cboEncryption_Click, change(lblEncryption.caption()));
+    on(cboEncryptionKeyLen.Click, &Morvel::unlessLoading<&Morvel::cboEncryptionKeyLen_Click>,
+       change(lblEncryptionKeyLen.caption()));
 }
 
 void Morvel::leaveFocusedBox() {

@@ -163,8 +163,9 @@ public:
 private:
     void wireEvents();
     // Runs a wired handler as the person's action: its writes form one step of origin Person,
-    // and the control knows them for its own, so that it does not follow them back.
-    void runAsOwnAction(void (Morvel::*handler)());
+    // and the control knows them for its own, so that it does not follow them back. The step is
+    // called "<what> of <field>", or "Edit <field>" when what is empty.
+    void runAsOwnAction(void (Morvel::*handler)(), std::string_view what);
     // Following the library (morvel_follow.cpp): what others change shows in the rows and, for
     // the current field, in the panel.
     void followCollection();

@@ -16,16 +16,19 @@ namespace morvel::control {
 // Insertions and removals are shown by AfterAdd and AfterRemove; the positioned notifications
 // that come after them put the row where the field is and keep the identity index.
 
-void Morvel::runAsOwnAction(void (Morvel::*handler)()) {
+void Morvel::runAsOwnAction(void (Morvel::*handler)(), std::string_view what) {
     // A copy: the step must end on the collection it began on, whatever the handler does.
     const FieldDefsPtr fields = moFieldDefs;
     std::optional<FieldDefs::Step> step;
     if (fields) {
         // The text is needed only when this action opens the step rather than joining one.
         if (!fields->inStep()) {
-            m_stepText.assign("Edit ");
-            m_stepText += m_currentField ? std::string_view(m_currentField->Name())
-                                         : std::string_view("fields");
+            const std::string_view field = m_currentField ? std::string_view(m_currentField->Name())
+                                                          : std::string_view("fields");
+            if (what.empty())
+                m_stepText.assign("Edit ").append(field);
+            else
+                m_stepText.assign(what).append(" of ").append(field);
         }
         step.emplace(fields->beginStep(m_stepText, ChangeOrigin::Person));
     }

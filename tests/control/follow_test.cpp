@@ -3,6 +3,9 @@
 #include "control/field_row_index.h"
 
 #include <functional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace morvel::testing {
 namespace {
@@ -123,6 +126,30 @@ TEST_F(Following, ThePersonsOwnWritesAreNotEchoedAndEachActionIsOneStep) {
     ASSERT_GE(steps.size(), 3u) << "the type, the reserved name and create-on-demand";
     for (const StepTag& tag : steps)
         EXPECT_EQ(tag, (StepTag{steps.front().sequence, ChangeOrigin::Person}));
+}
+
+TEST_F(Following, EachActionsStepIsNamedAfterTheBoxOrChoiceAndTheField) {
+    designer.SetCanModifyExisting(true);
+    std::vector<std::string> texts;
+    const Connection named =
+        defs->stepBegan.connect([&](const StepInfo& info) { texts.emplace_back(info.text); });
+    const std::pair<std::function<void()>, const char*> cases[] = {
+        {[&] { typeInto(designer.txtDisplayName, "xy"); },
+         "Type in Display Name of A|Type in Display Name of A"},
+        {[&] { typeInto(designer.txtName, "Z"); }, "Type in Name of A"},
+        {[&] { designer.chkCreateOnDemand.click(); }, // the name box stores on leaving
+         "Type in Name of A|Change Create on demand of AZ"},
+        {[&] { pickByData(designer.cboType, catalogue::type::Signature); }, "Change type of AZ"},
+    };
+    clickRow("A");
+    for (const auto& [act, expected] : cases) {
+        texts.clear();
+        act();
+        std::string joined;
+        for (const std::string& text : texts)
+            joined.append(joined.empty() ? "" : "|").append(text);
+        EXPECT_EQ(joined, expected);
+    }
 }
 
 TEST(FieldRowIndex, FindsEveryRowAfterScatteredRemovalsAndReinsertions) {
