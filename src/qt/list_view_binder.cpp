@@ -92,6 +92,17 @@ ListViewBinder::ListViewBinder(FormBinding& binding, view::ListView& list, QWidg
         const FormBinding::Mirroring mirroring(this->binding());
         rowsChanged(change);
     });
+    // Rows that come and go move Qt's current row by themselves (a removed current row hands it
+    // to a neighbour): that is no person's click. The headless selection is shown again after.
+    auto holdSelection = [this] { m_showingSelection = true; };
+    auto showHeadlessSelection = [this] {
+        m_showingSelection = false;
+        showSelection(m_list.selectedItem() ? m_list.selectedItem()->index() - 1 : -1);
+    };
+    QObject::connect(m_model, &QAbstractItemModel::rowsAboutToBeRemoved, this, holdSelection);
+    QObject::connect(m_model, &QAbstractItemModel::rowsAboutToBeInserted, this, holdSelection);
+    QObject::connect(m_model, &QAbstractItemModel::rowsRemoved, this, showHeadlessSelection);
+    QObject::connect(m_model, &QAbstractItemModel::rowsInserted, this, showHeadlessSelection);
     QObject::connect(m_tree.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                      [this](const QModelIndex& current) {
                          if (!m_showingSelection && current.isValid())

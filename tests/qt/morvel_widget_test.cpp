@@ -142,6 +142,24 @@ private slots:
         QCOMPARE(widget<QLineEdit>(morvel().txtName).text(), QString("Title"));
     }
 
+    // Rows that the host inserts, moves or removes shift Qt's current row by themselves; that
+    // must not be taken for a click on another field.
+    void rowsComingAndGoingLeaveTheSelectedFieldAlone() {
+        clickRow("Colour");
+        const auto selectedRow = [&] { return tree().selectionModel()->currentIndex().row(); };
+        const std::function<void()> hostWrites[] = {
+            [&] { defs->Move(3, 1); },
+            [&] { defs->Insert(1, std::make_shared<FieldDef>("Added", 200)); },
+            [&] { defs->Remove("Title"); },
+        };
+        for (const auto& write : hostWrites) {
+            write();
+            QCOMPARE(QString::fromStdString(designer->selectedField()->Name()),
+                     QString::fromStdString(std::string(morvel().lst.selectedItem()->text())));
+            QCOMPARE(selectedRow(), morvel().lst.selectedItem()->index() - 1);
+        }
+    }
+
     void theListValuesEditorAddsEditsAndSavesThroughItsWidgets() {
         clickRow("Colour");
         designer->modalHost().setDialogHook([](QDialog& dialog) {
