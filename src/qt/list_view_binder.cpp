@@ -71,6 +71,13 @@ ListViewBinder::ListViewBinder(FormBinding& binding, view::ListView& list, QWidg
     , m_list(list)
     , m_tree(static_cast<QTreeView&>(widget()))
     , m_model(new ListViewModel(list, &m_tree)) {
+    // Rows that come and go move Qt's current row by themselves (the view hands a removed current
+    // row's place to a neighbour): that is no person's click. The hold is connected before the
+    // view gets the model, so that it is on before the view reacts, and rowsChanged lifts it once
+    // every view of the model has caught up, showing the headless selection again.
+    auto holdSelection = [this] { m_showingSelection = true; };
+    QObject::connect(m_model, &QAbstractItemModel::rowsAboutToBeRemoved, this, holdSelection);
+    QObject::connect(m_model, &QAbstractItemModel::rowsAboutToBeInserted, this, holdSelection);
     m_tree.setModel(m_model);
     m_tree.setUniformRowHeights(true);
     m_tree.setRootIsDecorated(false);
@@ -92,17 +99,6 @@ ListViewBinder::ListViewBinder(FormBinding& binding, view::ListView& list, QWidg
         const FormBinding::Mirroring mirroring(this->binding());
         rowsChanged(change);
     });
-    // Rows that come and go move Qt's current row by themselves (a removed current row hands it
-    // to a neighbour): that is no person's click. The headless selection is shown again after.
-    auto holdSelection = [this] { m_showingSelection = true; };
-    auto showHeadlessSelection = [this] {
-        m_showingSelection = false;
-        showSelection(m_list.selectedItem() ? m_list.selectedItem()->index() - 1 : -1);
-    };
-    QObject::connect(m_model, &QAbstractItemModel::rowsAboutToBeRemoved, this, holdSelection);
-    QObject::connect(m_model, &QAbstractItemModel::rowsAboutToBeInserted, this, holdSelection);
-    QObject::connect(m_model, &QAbstractItemModel::rowsRemoved, this, showHeadlessSelection);
-    QObject::connect(m_model, &QAbstractItemModel::rowsInserted, this, showHeadlessSelection);
     QObject::connect(m_tree.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                      [this](const QModelIndex& current) {
                          if (!m_showingSelection && current.isValid())
@@ -129,6 +125,10 @@ void ListViewBinder::rowsChanged(const view::ListChange& change) {
         return;
     case Kind::SelectionChanged:
         showSelection(change.row);
+        return;
+    case Kind::Inserted:
+    case Kind::Removed:
+        showSelection(m_list.selectedItem() ? m_list.selectedItem()->index() - 1 : -1);
         return;
     case Kind::EnsureVisible:
         m_tree.scrollTo(m_model->index(change.row, 0));
