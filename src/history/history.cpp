@@ -19,20 +19,18 @@ History::History(FieldDefs& fields, std::size_t limit)
     , m_limit(limit == 0 ? 1 : limit) {
     m_connections += fields.stepBegan.connect([this](const StepInfo& info) { stepBegan(info); });
     m_connections += fields.stepEnded.connect([this](const StepInfo& info) { stepEnded(info); });
-    m_connections += fields.inserted.connect([this](const FieldPlaced& placed) {
-        RecordedChange change;
-        change.kind = RecordedChange::Kind::Insert;
-        change.field = placed.field;
-        change.from = placed.position;
-        record(placed.step, std::move(change));
-    });
-    m_connections += fields.removed.connect([this](const FieldPlaced& placed) {
-        RecordedChange change;
-        change.kind = RecordedChange::Kind::Remove;
-        change.field = placed.field;
-        change.from = placed.position;
-        record(placed.step, std::move(change));
-    });
+    // A field that entered or left the collection is recorded with its position.
+    auto placedAs = [this](RecordedChange::Kind kind) {
+        return [this, kind](const FieldPlaced& placed) {
+            RecordedChange change;
+            change.kind = kind;
+            change.field = placed.field;
+            change.from = placed.position;
+            record(placed.step, std::move(change));
+        };
+    };
+    m_connections += fields.inserted.connect(placedAs(RecordedChange::Kind::Insert));
+    m_connections += fields.removed.connect(placedAs(RecordedChange::Kind::Remove));
     m_connections += fields.moved.connect([this](const FieldMoved& moved) {
         RecordedChange change;
         change.kind = RecordedChange::Kind::Move;

@@ -27,6 +27,13 @@ std::string storeSnapshot(const PropertyStore& store) {
     return out;
 }
 
+std::string fieldNames(const FieldDefs& fields) {
+    std::string text;
+    for (const auto& field : fields)
+        text += (text.empty() ? "" : "|") + field->Name();
+    return text;
+}
+
 std::string fieldsSnapshot(const FieldDefs& fields) {
     // Stores with each value's kind, so that a whole number 1 and the text "1" differ.
     auto kinded = [](const PropertyStore& store) {

@@ -20,6 +20,8 @@ std::string listSnapshot(const view::ListView& list);
 // A property store in stored order: key=value joined by ';', texts quoted, so that a whole
 // number 0 and the text "0" differ.
 std::string storeSnapshot(const PropertyStore& store);
+// The names of a collection's fields in order, joined by '|'.
+std::string fieldNames(const FieldDefs& fields);
 // A collection in order: per field every member and every stored value with its kind, one field
 // a line; two collections hold the same definitions exactly when their snapshots are equal.
 std::string fieldsSnapshot(const FieldDefs& fields);

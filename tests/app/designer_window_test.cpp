@@ -1,6 +1,7 @@
 // The host window as a person uses it, keys and mouse on the real widgets; every message box is
 // answered by a scripted prompter.
 #include "designer_window.h"
+#include "qt/real_window.h"
 #include "store/sample_schema.h"
 #include "testing/scripted_prompter.h"
 #include "testing/snapshot.h"
@@ -16,8 +17,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <tuple>
 #include <utility>
@@ -308,12 +307,8 @@ private slots:
 // The undo keys again in a real window under a window manager, where the focus is real and a
 // box's own shortcuts compete with the window's.
 int main(int argc, char** argv) {
-    const char* display = std::getenv("DISPLAY");
-    if (!display || !*display) {
-        std::puts(
-            "SKIPPED: needs a real X display with a window manager (scripts/test starts one)");
+    if (morvel::testing::skippedWithoutDisplay())
         return 0;
-    }
     QApplication app(argc, argv);
     DesignerWindowTest test;
     std::vector<char*> args(argv, argv + argc);

@@ -1,5 +1,6 @@
 #include "base/error.h"
 #include "fields/field_defs.h"
+#include "testing/snapshot.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -7,13 +8,6 @@
 
 namespace morvel {
 namespace {
-
-std::string names(const FieldDefs& defs) {
-    std::string text;
-    for (const auto& field : defs)
-        text += (text.empty() ? "" : "|") + field->Name();
-    return text;
-}
 
 std::string tagOf(const StepTag& tag) {
     return " #" + std::to_string(tag.sequence) + originName(tag.origin);
@@ -108,7 +102,7 @@ TEST(FieldDefsNotifications, TellPositionsOrderAndStep) {
         Recorder recorder(defs);
         c.action(defs);
         EXPECT_EQ(recorder.log, c.told) << c.what;
-        EXPECT_EQ(names(defs), c.namesAfter) << c.what;
+        EXPECT_EQ(testkit::fieldNames(defs), c.namesAfter) << c.what;
     }
 }
 
@@ -118,7 +112,7 @@ TEST(FieldDefsNotifications, MoveRefusesPositionsOutsideTheCollection) {
     defs.Add("B", 3);
     for (auto [from, to] : {std::pair{0, 1}, {3, 1}, {1, 0}, {1, 3}})
         EXPECT_THROW(defs.Move(from, to), NotFoundError) << from << ">" << to;
-    EXPECT_EQ(names(defs), "A|B");
+    EXPECT_EQ(testkit::fieldNames(defs), "A|B");
 }
 
 // Every member and every stored entry, with its kind, in order.

@@ -1,18 +1,12 @@
 #include "base/error.h"
 #include "fields/field_defs.h"
+#include "testing/snapshot.h"
 
 #include <gtest/gtest.h>
 #include <string>
 
 namespace morvel {
 namespace {
-
-std::string names(const FieldDefs& defs) {
-    std::string text;
-    for (const auto& field : defs)
-        text += (text.empty() ? "" : "|") + field->Name();
-    return text;
-}
 
 TEST(FieldDefs, FindsFieldsByNameIgnoringCaseAndByOneBasedPosition) {
     FieldDefs defs;
@@ -35,10 +29,10 @@ TEST(FieldDefs, EnumeratesInCollectionOrderWithInsertions) {
     defs.Insert(1, std::make_shared<FieldDef>("A", 3));
     defs.Add("D", 3);
     defs.Insert(3, std::make_shared<FieldDef>("C", 3));
-    EXPECT_EQ(names(defs), "A|B|C|D");
+    EXPECT_EQ(testkit::fieldNames(defs), "A|B|C|D");
     EXPECT_EQ(defs.Item(3)->Name(), "C");
     defs.Remove("b");
-    EXPECT_EQ(names(defs), "A|C|D");
+    EXPECT_EQ(testkit::fieldNames(defs), "A|C|D");
     EXPECT_EQ(defs.Item(2)->Name(), "C");
     EXPECT_THROW(defs.Remove("B"), NotFoundError);
 }
@@ -81,7 +75,7 @@ TEST(FieldDefs, RefusesEmptyAndClashingNames) {
     auto connection = defs.AfterAdd.connect([&](const FieldDefs::FieldPtr&) { ++added; });
     EXPECT_THROW(FieldDef(""), FieldNameError);
     EXPECT_THROW(defs.Add("AMOUNT", 3), FieldNameError);
-    EXPECT_EQ(names(defs), "Amount");
+    EXPECT_EQ(testkit::fieldNames(defs), "Amount");
     EXPECT_EQ(added, 0);
     auto other = defs.Add("Other", 3);
     EXPECT_THROW(other->SetName("amount"), FieldNameError);
@@ -110,7 +104,7 @@ TEST(FieldDefs, RenameKeepsTheNameLookUpRight) {
     longName->SetName("Id"); // the old name is free again
     EXPECT_EQ(defs.Item("id"), longName);
     defs.Remove("CUSTOMERIDENTIFIERLONG");
-    EXPECT_EQ(names(defs), "Id");
+    EXPECT_EQ(testkit::fieldNames(defs), "Id");
     // A removed field no longer answers to its former collection's names.
     shortName->SetName("Id");
     EXPECT_EQ(defs.Item("Id"), longName);

@@ -3,6 +3,7 @@
 // no window is ever active, the focus stays empty and such faults cannot show.)
 #include "fields/field_defs.h"
 #include "qt/morvel_widget.h"
+#include "qt/real_window.h"
 #include "testing/snapshot.h"
 
 #include <QApplication>
@@ -13,8 +14,6 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QWheelEvent>
-#include <cstdio>
-#include <cstdlib>
 
 using namespace morvel;
 
@@ -114,12 +113,8 @@ private slots:
 };
 
 int main(int argc, char** argv) {
-    const char* display = std::getenv("DISPLAY");
-    if (!display || !*display) {
-        std::puts(
-            "SKIPPED: needs a real X display with a window manager (scripts/test starts one)");
+    if (morvel::testing::skippedWithoutDisplay())
         return 0;
-    }
     QApplication app(argc, argv);
     RealWindowTest test;
     return QTest::qExec(&test, argc, argv);
