@@ -8,6 +8,7 @@
 #include "qt_harness.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTreeView>
@@ -62,6 +63,24 @@ struct FrontEnd {
     QTreeView& tree;
     PaintProbe probe;
 };
+
+} // namespace
+
+const DesignerGeometry& designerGeometry() {
+    static const DesignerGeometry geometry = [] {
+        FrontEnd world(1);
+        world.widget.setFieldDefs(world.defs);
+        world.probe.waitForPaint();
+        DesignerGeometry measured;
+        for (int column = 0; column < world.tree.header()->count(); ++column)
+            measured.columnWidths.append(world.tree.header()->sectionSize(column));
+        measured.displayNameBoxWidth = world.lineEdit(world.widget.morvel().txtDisplayName).width();
+        return measured;
+    }();
+    return geometry;
+}
+
+namespace {
 
 std::int32_t fieldCount(const State& state) {
     return static_cast<std::int32_t>(state.range(0));

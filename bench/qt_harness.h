@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QStringList>
 #include <functional>
@@ -39,6 +40,14 @@ void releaseQtWidgets();
 // Every benchmark window is this size, shown on the offscreen platform.
 inline constexpr int kWindowWidth = 1200;
 inline constexpr int kWindowHeight = 800;
+
+// The geometry of the designer's list and display name box in a window of the benchmark size, so
+// that the reference paints cells and a box of the same sizes as the designer does.
+struct DesignerGeometry {
+    QList<int> columnWidths;
+    int displayNameBoxWidth = 0;
+};
+const DesignerGeometry& designerGeometry();
 
 // The eight cells of a field's row, as the designer's list shows them.
 QStringList rowTexts(const morvel::FieldDef& field);

@@ -29,12 +29,13 @@ OPERATIONS = {
     "Headless_FindNextWorstCase": ("headless: find next, worst case", 2 * MS, None),
     "Qt_FirstPaint": ("qt: FieldDefs to first paint", 100 * MS, "Reference_FillPaint"),
     "Qt_SelectLastRow": ("qt: select + scroll to last row", FRAME, "Reference_SelectLastRow"),
-    "Qt_KeystrokeCell": ("qt: keystroke changing a cell", FRAME, "Reference_CellChange"),
+    "Qt_KeystrokeCell": ("qt: keystroke changing a cell", FRAME, "Reference_KeystrokeCell"),
     "Qt_AfterAdd": ("qt: AfterAdd + repaint", FRAME, "Reference_InsertMiddle"),
     "Qt_AfterRemove": ("qt: AfterRemove + repaint", FRAME, "Reference_RemoveMiddle"),
     "Reference_FillPaint": ("reference QTreeWidget: fill + paint", None, None),
     "Reference_SelectLastRow": ("reference QTreeWidget: select + scroll last", None, None),
     "Reference_CellChange": ("reference QTreeWidget: change a cell", None, None),
+    "Reference_KeystrokeCell": ("reference QTreeWidget: keystroke in a line edit", None, None),
     "Reference_InsertMiddle": ("reference QTreeWidget: insert in the middle", None, None),
     "Reference_RemoveMiddle": ("reference QTreeWidget: remove in the middle", None, None),
 }
@@ -51,6 +52,9 @@ LINEAR_FACTOR = 15.0
 # every row. Every other operation is keyed and must not grow.
 LINEAR = ("Headless_SetFieldDefs", "Headless_FindNextWorstCase", "Qt_FirstPaint")
 
+# Operations that must cost no more than plain Qt's doing the same.
+AT_MOST_REFERENCE = ("Qt_KeystrokeCell",)
+
 TO_MS = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}
 
 
@@ -58,7 +62,10 @@ def load(paths):
     medians = {}
     for path in paths:
         with open(path) as f:
-            data = json.load(f)
+            text = f.read()
+        if not text.strip():
+            continue  # a filter that matched nothing in that program
+        data = json.loads(text)
         for run in data.get("benchmarks", []):
             if run.get("aggregate_name") != "median" and run.get("run_type") == "aggregate":
                 continue
@@ -114,6 +121,9 @@ def rows(medians):
                 if name == "Qt_FirstPaint" and n == LARGE:
                     goal_text += f", <= 1/{FIRST_PAINT_SPEEDUP} of ref"
                     ok = ok and ref is not None and ms * FIRST_PAINT_SPEEDUP <= ref["ms"]
+                if name in AT_MOST_REFERENCE:
+                    goal_text += ", <= ref"
+                    ok = ok and ref is not None and ms <= ref["ms"]
                 met = "met" if ok else "NOT MET"
                 missed += not ok
             cpu = fmt_ms(run["cpu_ms"]) if run["cpu_ms"] is not None else ""

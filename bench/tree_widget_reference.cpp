@@ -1,14 +1,20 @@
 // The reference: the same field list in a plain QTreeWidget with eight columns, filled item by
-// item, with Qt's defaults (only the root decoration is off, as in any flat list). Each
-// interaction does to the tree what the designer does to its list, so that each of our figures
-// has a plain-Qt figure to be compared with.
+// item, with Qt's defaults (only the root decoration is off, as in any flat list) and the
+// designer's column widths, and under it a plain QLineEdit as wide as the designer's display
+// name box. Each interaction does to the
+// tree what the designer does to its list, so that each of our figures has a plain-Qt figure to
+// be compared with.
 
 #include "bench_plan.h"
 #include "field_generator.h"
 #include "qt_harness.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 #include <map>
 #include <memory>
 
@@ -25,8 +31,15 @@ struct TreeReference {
         tree.setHeaderLabels({"Field Name", "Field Type", "Size", "Display Name", "Validation",
                               "Ctrl Read Only", "Control Edit", "Control List"});
         tree.setRootIsDecorated(false);
-        tree.resize(kWindowWidth, kWindowHeight);
-        tree.show();
+        const DesignerGeometry& geometry = designerGeometry();
+        for (int column = 0; column < geometry.columnWidths.size(); ++column)
+            tree.header()->resizeSection(column, geometry.columnWidths[column]);
+        box.setFixedWidth(geometry.displayNameBoxWidth);
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(&tree);
+        layout->addWidget(&box);
+        window.resize(kWindowWidth, kWindowHeight);
+        window.show();
         probe.waitForPaint();
     }
 
@@ -55,7 +68,9 @@ struct TreeReference {
     }
 
     std::shared_ptr<FieldDefs> defs;
+    QWidget window; // before the widgets it holds, so that it goes after them
     QTreeWidget tree;
+    QLineEdit box;
     PaintProbe probe;
 };
 
@@ -112,6 +127,42 @@ void Reference_CellChange(State& state) {
     item->setText(3, before);
 }
 
+// What a person's keystroke costs in plain Qt: a digit typed into the line edit (and taken back),
+// whose text the selected row's display name cell follows.
+void Reference_KeystrokeCell(State& state) {
+    TreeReference& reference = TreeReference::shared(fieldCount(state));
+    QTreeWidgetItem* item = reference.tree.topLevelItem(reference.tree.topLevelItemCount() - 1);
+    reference.selectAndScroll(item);
+    QLineEdit& box = reference.box;
+    box.setText(item->text(3));
+    const auto follow = QObject::connect(&box, &QLineEdit::textEdited,
+                                         [item](const QString& text) { item->setText(3, text); });
+    box.setFocus();
+    box.end(false);
+    reference.probe.waitForPaint();
+    const auto press = [&box](int key, const QString& text) {
+        QKeyEvent down(QEvent::KeyPress, key, {}, text);
+        QApplication::sendEvent(&box, &down);
+        QKeyEvent up(QEvent::KeyRelease, key, {}, text);
+        QApplication::sendEvent(&box, &up);
+    };
+    const QString before = item->text(3);
+    bool typed = false;
+    for (auto _ : state) {
+        typed = !typed;
+        if (typed)
+            press(Qt::Key_0, "0");
+        else
+            press(Qt::Key_Backspace, {});
+        checkPainted(state, reference.probe.waitForPaint());
+    }
+    if (typed)
+        press(Qt::Key_Backspace, {});
+    QObject::disconnect(follow);
+    if (item->text(3) != before)
+        state.SkipWithError("the keystrokes did not reach the cell");
+}
+
 // As the designer does on AfterAdd: a row for the new field at the end, selected and scrolled
 // into view. Taking it out again is not measured.
 void Reference_InsertMiddle(State& state) {
@@ -160,6 +211,8 @@ const bool kRegistered = [] {
     registerPlans("Reference_SelectLastRow", Reference_SelectLastRow, kMillisecond,
                   {{1000, 30}, {10000, 10}, {100000, 4}});
     registerPlans("Reference_CellChange", Reference_CellChange, kMillisecond,
+                  {{1000, 30}, {10000, 30}, {100000, 30}});
+    registerPlans("Reference_KeystrokeCell", Reference_KeystrokeCell, kMillisecond,
                   {{1000, 30}, {10000, 30}, {100000, 30}});
     registerPlans("Reference_InsertMiddle", Reference_InsertMiddle, kMillisecond,
                   {{1000, 20}, {10000, 3}, {100000, 1, 3}});
