@@ -45,8 +45,11 @@ void FocusRing::place() {
     QWidget* parent = m_target->parentWidget();
     if (parentWidget() != parent)
         setParent(parent);
-    const QRect outer =
-        m_target->geometry().adjusted(-kRingWidth, -kRingWidth, kRingWidth, kRingWidth);
+    // A widget at the edge of its parent (the field list fills the top of the designer) gets
+    // the ring on its own border there, where a ring outside it would be cut off.
+    const QRect outer = m_target->geometry()
+                            .adjusted(-kRingWidth, -kRingWidth, kRingWidth, kRingWidth)
+                            .intersected(parent->rect());
     setGeometry(outer);
     const QRect inner = rect().adjusted(kRingWidth, kRingWidth, -kRingWidth, -kRingWidth);
     setMask(QRegion(rect()).subtracted(QRegion(inner)));

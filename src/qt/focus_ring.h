@@ -10,6 +10,8 @@ namespace morvel::qt {
 // (several styles show no focus on a drop-down list, a check box or a list). The ring takes no
 // mouse input and covers nothing but its own border.
 class FocusRing : public QWidget {
+    Q_OBJECT
+
 public:
     explicit FocusRing(QWidget& root);
 

@@ -2,6 +2,7 @@
 // keyboard focus is real: stray keys after a Find must not reach a box of the panel. (Off screen
 // no window is ever active, the focus stays empty and such faults cannot show.)
 #include "fields/field_defs.h"
+#include "qt/focus_ring.h"
 #include "qt/morvel_widget.h"
 #include "qt/real_window.h"
 #include "testing/snapshot.h"
@@ -89,6 +90,12 @@ private slots:
         strayKeysAndWheel();
         QCOMPARE(testkit::fieldsSnapshot(*defs), before);
         QCOMPARE(QApplication::focusWidget(), &tree());
+        // The ring shows round the whole list, inside the designer even where the list touches
+        // its edges.
+        const auto* ring = designer->findChild<qt::FocusRing*>();
+        QVERIFY(ring && ring->isVisible());
+        QVERIFY(ring->parentWidget()->rect().contains(ring->geometry()));
+        QVERIFY(ring->geometry().contains(tree().geometry()));
 
         // Find Next (F3) from a row above repeats the search; the list keeps the keys again.
         clickRow("Approved");
