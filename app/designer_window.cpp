@@ -8,9 +8,11 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCryptographicHash>
+#include <QDockWidget>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QListView>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QSettings>
@@ -40,12 +42,14 @@ DesignerWindow::DesignerWindow(std::shared_ptr<SchemaDatabase> database, view::P
     , m_prompter(prompter ? *prompter : *m_ownPrompter)
     , m_session(std::move(database), m_prompter)
     , m_designer(new qt::MorvelWidget(this))
-    , m_fields(m_designer->morvel(), m_prompter) {
+    , m_fields(m_designer->morvel(), m_prompter)
+    , m_steps(m_designer->morvel()) {
     setCentralWidget(m_designer);
     m_designer->setDatabase(m_session.sharedDatabase());
     m_session.setCommitEdit([this] { m_designer->commitEdit(); });
     m_sessionWatch += m_session.loaded.connect([this] { tableLoaded(); });
     m_sessionWatch += m_session.stateChanged.connect([this] { stateChanged(); });
+    buildHistoryDock();
     buildActions();
     buildStatusBar();
     fillTablePicker();
@@ -101,6 +105,12 @@ void DesignerWindow::buildActions() {
         if (shortcut->key() == find->shortcut() || shortcut->key() == findNext->shortcut())
             shortcut->setEnabled(false);
 
+    QMenu* viewMenu = menuBar()->addMenu(tr("&View"));
+    QAction* showHistory = m_historyDock->toggleViewAction();
+    showHistory->setText(tr("&History"));
+    showHistory->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_H));
+    viewMenu->addAction(showHistory);
+
     QMenu* fields = menuBar()->addMenu(tr("F&ields"));
     QAction* add = fields->addAction(tr("&Add Field"), QKeySequence(Qt::CTRL | Qt::Key_N), this,
                                      [this] { qt::guarded(this, [&] { m_fields.newField(); }); });
@@ -137,6 +147,28 @@ void DesignerWindow::buildActions() {
     bar->addAction(m_save);
     bar->addSeparator();
     bar->addAction(m_allowChanges);
+}
+
+void DesignerWindow::buildHistoryDock() {
+    m_historyModel = new qt::HistoryModel(this);
+    m_historyView = new QListView(this);
+    m_historyView->setObjectName("historyView");
+    m_historyView->setModel(m_historyModel);
+    m_historyView->setUniformItemSizes(true);
+    m_historyView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    connect(m_historyView, &QListView::clicked, this,
+            [this](const QModelIndex& index) { jumpTo(index.row()); });
+    // The row of the present state stays the view's current one, however it was reached.
+    connect(m_historyModel, &qt::HistoryModel::currentRowChanged, this, [this](int row) {
+        const QModelIndex index = m_historyModel->index(row);
+        m_historyView->setCurrentIndex(index);
+        m_historyView->scrollTo(index);
+    });
+    m_historyDock = new QDockWidget(tr("History"), this);
+    m_historyDock->setObjectName("historyDock");
+    m_historyDock->setWidget(m_historyView);
+    addDockWidget(Qt::RightDockWidgetArea, m_historyDock);
+    m_historyDock->hide();
 }
 
 void DesignerWindow::buildStatusBar() {
@@ -203,6 +235,8 @@ void DesignerWindow::tableLoaded() {
     // Loading the table shown again (Revert, Reload) keeps the person's place in it.
     const bool again = m_designer->fieldDefs() && m_shownTable == table().info.id;
     const Place kept = again ? place() : Place{};
+    // The history of the table shown until now has gone with it; the new one comes with the state.
+    m_historyModel->setHistory(nullptr);
     // The unlock is for the table it was given for, and is never carried over.
     m_allowChanges->setChecked(false);
     m_designer->setFieldDefs(table().fields);
@@ -223,6 +257,8 @@ void DesignerWindow::stateChanged() {
             ? tr(kReadOnlyReason)
             : tr("Save the table (%1)").arg(m_save->shortcut().toString(QKeySequence::NativeText)));
     m_revert->setEnabled(open);
+    if (m_historyModel->history() != m_session.history())
+        m_historyModel->setHistory(m_session.history());
     undoRedoChanged();
     m_removeField->setEnabled(!!m_designer->selectedField());
     const QString name = open ? toQString(table().info.displayName) : tr("no table");
@@ -251,22 +287,38 @@ void DesignerWindow::stepBack(bool redo) {
     if (!history)
         return;
     history->breakMerge();
-    qt::guarded(this, [&] {
-        if (redo ? history->canRedo() : history->canUndo())
-            redo ? history->redo() : history->undo();
-    });
+    qt::guarded(this, [&] { redo ? m_steps.redo(*history) : m_steps.undo(*history); });
+}
+
+void DesignerWindow::jumpTo(int row) {
+    History* history = m_session.history();
+    if (!history || row < 0)
+        return;
+    history->breakMerge();
+    qt::guarded(this, [&] { m_steps.jumpTo(*history, static_cast<std::size_t>(row)); });
+    // A click that changed nothing (the present row) leaves the view where the state is.
+    const QModelIndex present = m_historyModel->index(m_historyModel->currentRow());
+    m_historyView->setCurrentIndex(present);
 }
 
 bool DesignerWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::ShortcutOverride || !watched->isWidgetType() ||
+    const bool override = event->type() == QEvent::ShortcutOverride;
+    if ((!override && event->type() != QEvent::KeyPress) || !watched->isWidgetType() ||
         !isAncestorOf(static_cast<QWidget*>(watched)))
         return false;
     auto* key = static_cast<QKeyEvent*>(event);
     const QKeySequence pressed(key->keyCombination());
-    if (pressed != m_undo->shortcut() && !m_redo->shortcuts().contains(pressed))
+    const bool redo = m_redo->shortcuts().contains(pressed);
+    if (pressed != m_undo->shortcut() && !redo)
         return false;
     // Left unaccepted and kept from the box, the key goes on to the window's shortcuts.
-    key->ignore();
+    if (override) {
+        key->ignore();
+        return true;
+    }
+    // A disabled action takes no key, and the box would take it next. Disabled may only mean
+    // that the edit in progress is not a step yet: ending it first can make one.
+    stepBack(redo);
     return true;
 }
 

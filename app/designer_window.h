@@ -1,6 +1,8 @@
 #pragma once
 
 #include "commands/field_commands.h"
+#include "commands/history_commands.h"
+#include "qt/history_model.h"
 #include "qt/morvel_widget.h"
 #include "qt/qt_prompter.h"
 #include "table_session.h"
@@ -10,7 +12,9 @@
 
 class QAction;
 class QComboBox;
+class QDockWidget;
 class QLabel;
+class QListView;
 class QTreeView;
 
 namespace morvel::app {
@@ -22,7 +26,8 @@ namespace morvel::app {
 //
 // The title carries a modified marker while the table has unsaved edits and says "[read only]"
 // for a database that cannot be written. Undo and Redo walk the open table's history, which is
-// new with every load; the marker follows the history's saved point. "Allow changes to existing
+// new with every load; the marker follows the history's saved point. The History dock (View >
+// History) lists its steps; a click on one goes back or forward to it. "Allow changes to existing
 // fields" starts off with every table and is not remembered; the status bar says so while it is on.
 class DesignerWindow : public QMainWindow {
     Q_OBJECT
@@ -43,6 +48,8 @@ public:
 
     qt::MorvelWidget& designer() const { return *m_designer; }
     QTreeView& fieldList() const;
+    QDockWidget& historyDock() const { return *m_historyDock; }
+    QListView& historyView() const { return *m_historyView; }
     TableSession& session() { return m_session; }
     const TableDefinition& table() const { return m_session.table(); }
     bool isModified() const { return m_session.isModified(); }
@@ -60,6 +67,7 @@ private:
     };
 
     void buildActions();
+    void buildHistoryDock();
     void buildStatusBar();
     void fillTablePicker();
     void tablePicked(int index);
@@ -70,6 +78,8 @@ private:
     void undoRedoChanged();
     // Undoes (or redoes) the last step of the table's history.
     void stepBack(bool redo);
+    // Goes to the state after the first `row` steps, as a click on that row of the History dock.
+    void jumpTo(int row);
     void allowChangesToggled(bool allowed);
     void removeField();
     Place place() const;
@@ -82,6 +92,10 @@ private:
     TableSession m_session;
     qt::MorvelWidget* m_designer;
     commands::FieldCommands m_fields;
+    commands::HistoryCommands m_steps;
+    qt::HistoryModel* m_historyModel = nullptr;
+    QDockWidget* m_historyDock = nullptr;
+    QListView* m_historyView = nullptr;
     std::int32_t m_shownTable = 0;
     QComboBox* m_tablePicker = nullptr;
     QAction* m_undo = nullptr;

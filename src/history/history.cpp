@@ -94,6 +94,7 @@ void History::setClean() {
 
 void History::clear() {
     m_steps.clear();
+    stepsChanged.notify({StepsChange::Kind::Reset, 0, 0});
     m_index = 0;
     m_clean = 0;
     m_mergeOpen = false;
@@ -156,14 +157,17 @@ void History::push(Step step) {
         return;
     }
     if (m_index < m_steps.size()) {
+        const std::size_t undone = m_steps.size() - m_index;
         m_steps.erase(m_steps.begin() + static_cast<std::ptrdiff_t>(m_index), m_steps.end());
         if (m_clean && *m_clean > m_index)
             m_clean.reset();
+        stepsChanged.notify({StepsChange::Kind::Removed, m_index, undone});
     }
     m_mergeOpen = step.origin == ChangeOrigin::Person && step.changes.size() == 1 &&
                   step.changes.front().mergeable();
     m_steps.push_back(std::move(step));
     ++m_index;
+    stepsChanged.notify({StepsChange::Kind::Inserted, m_index - 1, 1});
     while (m_steps.size() > m_limit)
         dropOldest();
     stateChanged.notify();
@@ -189,6 +193,7 @@ void History::dropOldest() {
         m_steps.pop_back();
         if (m_clean && *m_clean > m_steps.size())
             m_clean.reset();
+        stepsChanged.notify({StepsChange::Kind::Removed, m_steps.size(), 1});
         return;
     }
     m_steps.pop_front();
@@ -197,6 +202,7 @@ void History::dropOldest() {
         m_clean.reset();
     else if (m_clean)
         --*m_clean;
+    stepsChanged.notify({StepsChange::Kind::Removed, 0, 1});
 }
 
 void History::undoOne() {

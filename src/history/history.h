@@ -8,11 +8,21 @@
 #include <cstdint>
 #include <deque>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace morvel {
+
+// How the list of steps changed: the steps [first, first + count) were inserted or removed (the
+// indexes are those before a removal and after an insertion), or the whole list was replaced.
+struct StepsChange {
+    enum class Kind : std::uint8_t { Inserted, Removed, Reset };
+    Kind kind = Kind::Reset;
+    std::size_t first = 0;
+    std::size_t count = 0;
+};
 
 // The undo history of one collection, recorded from its notifications alone, so that every writer
 // (the panel, the editors, the host, paste, merge) is covered without telling it anything.
@@ -47,6 +57,8 @@ public:
     std::size_t index() const { return m_index; }
     // The text of the step at 0-based i (i < count()).
     std::string_view text(std::size_t i) const { return m_steps.at(i).text; }
+    // The changes of the step at 0-based i, in the order they were made.
+    std::span<const RecordedChange> changes(std::size_t i) const { return m_steps.at(i).changes; }
     // Undoes or redoes steps until index() is n (at most count()).
     void setIndex(std::size_t n);
 
@@ -70,6 +82,9 @@ public:
 
     // Raised when anything above may read differently: availability, texts, index, cleanliness.
     Signal<> stateChanged;
+    // Raised as steps come and go, before the stateChanged of the same call, so that a list of
+    // the steps follows them row by row instead of reading them all again.
+    Signal<const StepsChange&> stepsChanged;
 
 private:
     struct Step {

@@ -9,9 +9,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QFile>
+#include <QFont>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -301,6 +304,109 @@ private slots:
             }
         }
     }
+
+    // What the walk above leaves out: a name typed into its box (stored only when the box is
+    // left), and where the person looks afterwards: the field the step changed, with the keyboard
+    // on the field list, whichever field was shown before.
+    void undoShowsTheFieldItChangedAndTakesBackANameStillInItsBox() {
+        const auto ctrl = Qt::ControlModifier;
+        struct Case {
+            const char* what;
+            std::function<void(app::DesignerWindow&)> act;
+            const char* shownUndone;
+            const char* shownRedone;
+        };
+        const Case cases[] = {
+            {"a name still in its box",
+             [](app::DesignerWindow& window) {
+                 clickRow(window, "Total");
+                 QLineEdit* name = box(window, morvel(window).txtName);
+                 QTest::mouseClick(name, Qt::LeftButton);
+                 QTest::keyClick(name, Qt::Key_End);
+                 QTest::keyClicks(name, "Due");
+             },
+             "Total", "TotalDue"},
+            {"a display name, then another field shown",
+             [](app::DesignerWindow& window) {
+                 clickRow(window, "Total");
+                 typeAtEnd(window, " due");
+                 clickRow(window, "Quantity");
+             },
+             "Total", "Total"},
+        };
+        for (const Case& c : cases) {
+            auto window = open();
+            QTest::keyClick(window.get(), Qt::Key_E, ctrl | Qt::ShiftModifier); // names may change
+            const std::string before = fields(*window);
+            c.act(*window);
+            press(*window, Qt::Key_Z, ctrl);
+            QCOMPARE(fields(*window), before);
+            QCOMPARE(shown(*window), QString(c.shownUndone));
+            QVERIFY2(QApplication::focusWidget() == &window->fieldList(), c.what);
+            press(*window, Qt::Key_Z, ctrl | Qt::ShiftModifier);
+            QCOMPARE(shown(*window), QString(c.shownRedone));
+            QVERIFY2(window->isWindowModified(), c.what);
+        }
+    }
+
+    // The History dock (Ctrl+H) lists the steps under "<empty>", follows undo and redo, marks the
+    // saved state, and a click on a row goes to that state.
+    void theHistoryDockListsTheStepsAndAClickGoesToOne() {
+        const auto ctrl = Qt::ControlModifier;
+        auto window = open();
+        const std::string loaded = fields(*window);
+        QVERIFY(!window->historyDock().isVisible());
+        QTest::keyClick(window.get(), Qt::Key_H, ctrl);
+        QVERIFY(window->historyDock().isVisible());
+        clickRow(*window, "Total");
+        typeAtEnd(*window, " due");
+        clickRow(*window, "Quantity");
+        typeAtEnd(*window, " ordered");
+        clickRow(*window, "Paid");
+        const std::string edited = fields(*window);
+        QListView& view = window->historyView();
+        QAbstractItemModel& steps = *view.model();
+        auto rows = [&] {
+            QStringList out;
+            for (int row = 0; row < steps.rowCount(); ++row)
+                out << steps.index(row, 0).data().toString() +
+                           (steps.index(row, 0).data(Qt::FontRole).value<QFont>().bold() ? "*"
+                                                                                         : "") +
+                           (steps.index(row, 0).data(Qt::DecorationRole).isNull() ? "" : "=");
+            return out.join(" / ");
+        };
+        auto clickStep = [&](int row) {
+            const QModelIndex index = steps.index(row, 0);
+            view.scrollTo(index);
+            QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+        };
+        QCOMPARE(rows(), "<empty>= / Type in Display Name of Total / "
+                         "Type in Display Name of Quantity*");
+        // Each click, then the fields, the rows and the marker it leaves.
+        const std::tuple<int, std::string, const char*, bool> clicks[] = {
+            {0, loaded,
+             "<empty>*= / Type in Display Name of Total / Type in Display Name of Quantity", false},
+            {2, edited,
+             "<empty>= / Type in Display Name of Total / Type in Display Name of Quantity*", true},
+            {1, "", "<empty>= / Type in Display Name of Total* / Type in Display Name of Quantity",
+             true},
+        };
+        for (const auto& [row, state, expected, modified] : clicks) {
+            clickStep(row);
+            if (!state.empty())
+                QCOMPARE(fields(*window), state);
+            QCOMPARE(rows(), QString(expected));
+            QCOMPARE(window->isWindowModified(), modified);
+            QCOMPARE(view.currentIndex().row(), row);
+        }
+        QCOMPARE(shown(*window), QString("Quantity")); // the field the undone step changed
+        QTest::keyClick(window.get(), Qt::Key_S, ctrl);
+        QCOMPARE(rows(), "<empty> / Type in Display Name of Total*= / "
+                         "Type in Display Name of Quantity");
+        typeAtEnd(*window, "!"); // a new step drops the one undone
+        QCOMPARE(rows(), "<empty> / Type in Display Name of Total= / "
+                         "Type in Display Name of Quantity*");
+    }
 };
 
 #ifdef MORVEL_REAL_WINDOW
@@ -312,9 +418,10 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     DesignerWindowTest test;
     std::vector<char*> args(argv, argv + argc);
-    char only[] = "undoAndRedoWalkTheHistoryAndTheMarkerFollowsTheSave";
+    char walk[] = "undoAndRedoWalkTheHistoryAndTheMarkerFollowsTheSave";
+    char shown[] = "undoShowsTheFieldItChangedAndTakesBackANameStillInItsBox";
     if (argc == 1)
-        args.push_back(only);
+        args.insert(args.end(), {walk, shown});
     return QTest::qExec(&test, static_cast<int>(args.size()), args.data());
 }
 #else

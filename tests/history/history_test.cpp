@@ -181,6 +181,50 @@ TEST_F(HistoryTest, LimitDropsTheOldestSteps) {
     EXPECT_EQ(fields.Item(1)->Size(), 2);
 }
 
+// A copy of the list of steps kept by stepsChanged alone reads as the history does through new
+// steps, a merge, a new step after undoing, the limit from both ends and a clear.
+TEST_F(HistoryTest, StepsChangedKeepsACopyOfTheStepsExact) {
+    auto texts = [&](std::size_t first, std::size_t count) {
+        std::vector<std::string> out;
+        for (std::size_t i = first; i < first + count; ++i)
+            out.emplace_back(history.text(i));
+        return out;
+    };
+    std::vector<std::string> copy;
+    auto watch = history.stepsChanged.connect([&](const StepsChange& change) {
+        const auto at = copy.begin() + static_cast<std::ptrdiff_t>(change.first);
+        if (change.kind == StepsChange::Kind::Inserted) {
+            const std::vector<std::string> inserted = texts(change.first, change.count);
+            copy.insert(at, inserted.begin(), inserted.end());
+        } else if (change.kind == StepsChange::Kind::Removed)
+            copy.erase(at, at + static_cast<std::ptrdiff_t>(change.count));
+        else
+            copy = texts(0, history.count());
+    });
+    int size = 0;
+    auto step = [&](const std::string& text) {
+        const auto scope = fields.beginStep(text, ChangeOrigin::Host);
+        fields.Item(1)->SetSize(++size);
+    };
+    const std::function<void()> actions[] = {
+        [&] { step("a"), step("b"); },
+        [&] {
+            personStep([&] { fields.Item(2)->SetDisplayName("K"); });
+            personStep([&] { fields.Item(2)->SetDisplayName("Ki"); });
+        },
+        [&] { history.undo(), history.undo(), step("c"); },
+        [&] { history.setLimit(3), step("d"), step("e"); },
+        [&] { history.setIndex(0), history.setLimit(1); },
+        [&] { step("f"); },
+        [&] { history.clear(), step("g"); },
+    };
+    for (std::size_t i = 0; i < std::size(actions); ++i) {
+        SCOPED_TRACE(i);
+        actions[i]();
+        EXPECT_EQ(copy, texts(0, history.count()));
+    }
+}
+
 TEST_F(HistoryTest, UndoWaitsForTheActionUnderWay) {
     fields.Item(1)->SetSize(3);
     const auto step = fields.beginStep("Edit", ChangeOrigin::Person);
