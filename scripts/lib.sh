@@ -6,7 +6,7 @@ MORVEL_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # What building, testing and running Morvel needs on Debian 12.
 MORVEL_PACKAGES=(
     cmake ninja-build g++ pkg-config
-    qt6-base-dev libsqlite3-dev
+    qt6-base-dev libsqlite3-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev googletest libbenchmark-dev
     xvfb xauth x11-utils openbox libgl-dev
     clang libclang-rt-14-dev

@@ -72,8 +72,12 @@ FieldDefs::FieldPtr FieldDefs::Insert(std::int32_t position, FieldPtr field) {
     m_byName.emplace(field->Name(), field);
     field->m_collection = this;
     AfterAdd.notify(field);
-    // An AfterAdd observer may have moved or removed it meanwhile.
-    if (const std::int32_t now = positionOf(*field); now != 0)
+    // An AfterAdd observer may have moved or removed it meanwhile. Mostly it stays where it was
+    // put, and looking there first keeps building a large collection linear.
+    const auto at = static_cast<std::size_t>(position - 1);
+    const std::int32_t now =
+        at < m_fields.size() && m_fields[at] == field ? position : positionOf(*field);
+    if (now != 0)
         inserted.notify({field, now, step});
     return field;
 }
