@@ -166,10 +166,10 @@ ChangeSet::ChangeSet(FieldDefs& fields)
 ChangeSet::~ChangeSet() = default;
 
 void ChangeSet::rebase() {
-    std::vector<FieldId> told;
+    std::vector<std::shared_ptr<FieldDef>> told;
     told.reserve(m_tracked.size());
     for (const auto& [id, tracked] : m_tracked)
-        told.push_back(id);
+        told.push_back(tracked.field);
     const bool wasEmpty = empty();
     m_tracked.clear();
     m_differing = 0;
@@ -178,8 +178,8 @@ void ChangeSet::rebase() {
     m_baselineOrder.reserve(static_cast<std::size_t>(m_fields.Count()));
     for (const auto& field : m_fields)
         m_baselineOrder.push_back(field->id());
-    for (FieldId id : told)
-        fieldChanged.notify(id);
+    for (const auto& field : told)
+        tell(field);
     if (!wasEmpty)
         emptyChanged.notify();
 }
@@ -322,6 +322,7 @@ void ChangeSet::moved(const FieldMoved& moved) {
 void ChangeSet::settle(FieldId id, bool wasDiffering) {
     Tracked* tracked = find(id);
     const bool now = tracked && tracked->differs();
+    const std::shared_ptr<FieldDef> field = tracked ? tracked->field : nullptr;
     if (tracked && tracked->forgettable())
         m_tracked.erase(id);
     const bool wasEmpty = empty();
@@ -329,9 +330,14 @@ void ChangeSet::settle(FieldId id, bool wasDiffering) {
         ++m_differing;
     else if (!now && wasDiffering)
         --m_differing;
-    fieldChanged.notify(id);
+    tell(field);
     if (wasEmpty != empty())
         emptyChanged.notify();
+}
+
+void ChangeSet::tell(const std::shared_ptr<FieldDef>& field) {
+    if (field)
+        fieldChanged.notify(*field);
 }
 
 void ChangeSet::checkOrder() {
@@ -414,6 +420,11 @@ std::vector<FieldDifference> ChangeSet::differences() const {
         if (tracked.differs())
             result.push_back(difference(id));
     return result;
+}
+
+std::shared_ptr<FieldDef> ChangeSet::fieldOf(FieldId id) const {
+    const Tracked* tracked = find(id);
+    return tracked ? tracked->field : nullptr;
 }
 
 std::vector<FieldId> ChangeSet::differingFields() const {

@@ -88,6 +88,8 @@ public:
     // the fields that differ, in no particular order. Linear in what changed.
     FieldDifference difference(FieldId id) const;
     std::vector<FieldDifference> differences() const;
+    // The object of a field that differs (a removed one as it was removed), or null.
+    std::shared_ptr<FieldDef> fieldOf(FieldId id) const;
     // The identities of every field that differs.
     std::vector<FieldId> differingFields() const;
     // The baseline value of a member (the present one when it did not change), and a field's
@@ -98,7 +100,7 @@ public:
     const std::vector<FieldId>& baselineOrder() const { return m_baselineOrder; }
 
     // Raised when a field's status may read differently (its marker).
-    Signal<FieldId> fieldChanged;
+    Signal<const FieldDef&> fieldChanged;
     // Raised when empty() changes.
     Signal<> emptyChanged;
 
@@ -115,6 +117,7 @@ private:
     void moved(const FieldMoved& moved);
     // Recounts one field after a change of it, and forgets it when it equals its baseline.
     void settle(FieldId id, bool wasDiffering);
+    void tell(const std::shared_ptr<FieldDef>& field);
     void checkOrder();
 
     FieldDefs& m_fields;
