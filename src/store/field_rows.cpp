@@ -7,6 +7,7 @@
 
 #include <limits>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace morvel::field_rows {
@@ -118,12 +119,14 @@ void bindValue(Statement& insert, int index, const Value& value) {
     }
 }
 
-void writeStore(Statement& insert, std::int64_t tableId, std::int64_t position, Store store,
+} // namespace
+
+void writeStore(Statement& insert, std::int64_t tableId, std::int64_t fieldId, Store store,
                 const PropertyStore& values) {
     std::int64_t sequence = 0;
     for (const ListEntry& entry : values) {
         insert.bind(1, tableId)
-            .bind(2, position)
+            .bind(2, fieldId)
             .bind(3, std::int64_t{static_cast<std::int32_t>(store)})
             .bind(4, ++sequence)
             .bind(5, std::string_view(entry.Key));
@@ -132,33 +135,41 @@ void writeStore(Statement& insert, std::int64_t tableId, std::int64_t position, 
     }
 }
 
-} // namespace
-
 std::shared_ptr<FieldDefs> read(SqliteConnection& connection, std::int64_t tableId,
-                                std::string_view tableName) {
+                                std::string_view tableName, std::int32_t version) {
     const DamageReport damage(connection, tableName);
     std::vector<std::shared_ptr<FieldDef>> fields;
-
+    // A version-1 file (opened to look at only) has no identities: its dense positions serve.
+    const bool identified = version >= 2;
     Statement fieldRows(connection,
-                        "SELECT position, name, description, display_name, default_value, "
-                        "field_type, size, ctrl_edit, ctrl_read_only, ctrl_list, validation, "
-                        "create_on_demand FROM fields WHERE table_id = ? ORDER BY position");
+                        std::string("SELECT position, name, description, display_name, "
+                                    "default_value, field_type, size, ctrl_edit, ctrl_read_only, "
+                                    "ctrl_list, validation, create_on_demand, ") +
+                            (identified ? "field_id" : "position") +
+                            " FROM fields WHERE table_id = ? ORDER BY position");
     fieldRows.bind(1, tableId);
+    std::unordered_map<std::int64_t, FieldDef*> byId;
     while (fieldRows.step()) {
-        if (fieldRows.integer(0) != static_cast<std::int64_t>(fields.size()) + 1)
+        if (!identified && fieldRows.integer(0) != static_cast<std::int64_t>(fields.size()) + 1)
             damage.fail("has a gap in its field positions");
-        fields.push_back(readField(fieldRows, damage));
+        auto field = readField(fieldRows, damage);
+        const std::int64_t id = fieldRows.integer(12);
+        if (id <= 0 || !byId.emplace(id, field.get()).second)
+            damage.fail("has two fields of one identity");
+        field->restoreId(FieldId(static_cast<std::uint64_t>(id)));
+        fields.push_back(std::move(field));
     }
 
-    Statement valueRows(connection, "SELECT position, store, key, kind, value FROM field_values "
-                                    "WHERE table_id = ? ORDER BY position, store, sequence");
+    Statement valueRows(connection, std::string("SELECT ") +
+                                        (identified ? "field_id" : "position") +
+                                        ", store, key, kind, value FROM field_values "
+                                        "WHERE table_id = ? ORDER BY 1, store, sequence");
     valueRows.bind(1, tableId);
     while (valueRows.step()) {
-        const std::int64_t position = valueRows.integer(0);
-        if (position < 1 || position > static_cast<std::int64_t>(fields.size()))
+        const auto field = byId.find(valueRows.integer(0));
+        if (field == byId.end())
             damage.fail("has values of a field that does not exist");
-        PropertyStore& store =
-            storeOf(*fields[static_cast<std::size_t>(position - 1)], valueRows.integer(1), damage);
+        PropertyStore& store = storeOf(*field->second, valueRows.integer(1), damage);
         const std::int32_t before = store.Count();
         store.SetValue(damage.text(valueRows, 2, "key"), damage.value(valueRows, 3, 4), true);
         if (store.Count() == before)
@@ -176,39 +187,55 @@ std::shared_ptr<FieldDefs> read(SqliteConnection& connection, std::int64_t table
     return result;
 }
 
-void write(SqliteConnection& connection, std::int64_t tableId, const FieldDefs& fields) {
-    Statement dropValues(connection, "DELETE FROM field_values WHERE table_id = ?");
-    dropValues.bind(1, tableId).run();
-    Statement dropFields(connection, "DELETE FROM fields WHERE table_id = ?");
-    dropFields.bind(1, tableId).run();
+Writer::Writer(SqliteConnection& connection, std::int64_t tableId)
+    : m_connection(connection)
+    , m_tableId(tableId)
+    , m_insertField(connection, "INSERT INTO fields (table_id, position, field_id, name, "
+                                "description, display_name, default_value, field_type, size, "
+                                "ctrl_edit, ctrl_read_only, ctrl_list, validation, "
+                                "create_on_demand) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
+                                "?, ?)")
+    , m_insertValue(connection, "INSERT INTO field_values (table_id, field_id, store, sequence, "
+                                "key, kind, value) VALUES (?, ?, ?, ?, ?, ?, ?)") {}
 
-    Statement insertField(connection, "INSERT INTO fields (table_id, position, name, description, "
-                                      "display_name, default_value, field_type, size, ctrl_edit, "
-                                      "ctrl_read_only, ctrl_list, validation, create_on_demand) "
-                                      "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
-    Statement insertValue(connection, "INSERT INTO field_values (table_id, position, store, "
-                                      "sequence, key, kind, value) VALUES (?, ?, ?, ?, ?, ?, ?)");
+Writer::~Writer() = default;
+
+void Writer::bindMembers(Statement& statement, int first, const FieldDef& field) {
+    statement.bind(first, std::string_view(field.Name()))
+        .bind(first + 1, std::string_view(field.Description()))
+        .bind(first + 2, std::string_view(field.DisplayName()))
+        .bind(first + 3, std::string_view(field.DefaultValue()))
+        .bind(first + 4, std::int64_t{field.FieldType()})
+        .bind(first + 5, std::int64_t{field.Size()})
+        .bind(first + 6, std::string_view(field.CtrlEdit()))
+        .bind(first + 7, std::string_view(field.CtrlReadOnly()))
+        .bind(first + 8, std::string_view(field.CtrlList()))
+        .bind(first + 9, std::int64_t{field.Validation()})
+        .bind(first + 10, std::int64_t{field.CreateOnDemand() ? 1 : 0});
+}
+
+void Writer::insert(const FieldDef& field, std::int64_t position) {
+    const auto id = static_cast<std::int64_t>(field.id().value());
+    m_insertField.bind(1, m_tableId).bind(2, position).bind(3, id);
+    bindMembers(m_insertField, 4, field);
+    m_insertField.run();
+    writeStore(m_insertValue, m_tableId, id, Store::Properties, field.Properties());
+    writeStore(m_insertValue, m_tableId, id, Store::ListValues, field.ListValues());
+    writeStore(m_insertValue, m_tableId, id, Store::Locales, field.Locales());
+}
+
+void Writer::replaceAll(const FieldDefs& fields) {
+    Statement dropValues(m_connection, "DELETE FROM field_values WHERE table_id = ?");
+    dropValues.bind(1, m_tableId).run();
+    Statement dropFields(m_connection, "DELETE FROM fields WHERE table_id = ?");
+    dropFields.bind(1, m_tableId).run();
     std::int64_t position = 0;
-    for (const auto& field : fields) {
-        ++position;
-        insertField.bind(1, tableId)
-            .bind(2, position)
-            .bind(3, std::string_view(field->Name()))
-            .bind(4, std::string_view(field->Description()))
-            .bind(5, std::string_view(field->DisplayName()))
-            .bind(6, std::string_view(field->DefaultValue()))
-            .bind(7, std::int64_t{field->FieldType()})
-            .bind(8, std::int64_t{field->Size()})
-            .bind(9, std::string_view(field->CtrlEdit()))
-            .bind(10, std::string_view(field->CtrlReadOnly()))
-            .bind(11, std::string_view(field->CtrlList()))
-            .bind(12, std::int64_t{field->Validation()})
-            .bind(13, std::int64_t{field->CreateOnDemand() ? 1 : 0});
-        insertField.run();
-        writeStore(insertValue, tableId, position, Store::Properties, field->Properties());
-        writeStore(insertValue, tableId, position, Store::ListValues, field->ListValues());
-        writeStore(insertValue, tableId, position, Store::Locales, field->Locales());
-    }
+    for (const auto& field : fields)
+        insert(*field, position += kGap);
+}
+
+void write(SqliteConnection& connection, std::int64_t tableId, const FieldDefs& fields) {
+    Writer(connection, tableId).replaceAll(fields);
 }
 
 } // namespace morvel::field_rows

@@ -1,6 +1,8 @@
 #include "store/schema_database.h"
 
 #include "base/error.h"
+#include "history/change_set.h"
+#include "store/change_writer.h"
 #include "store/field_rows.h"
 #include "store/schema.h"
 #include "store/sqlite_connection.h"
@@ -83,6 +85,7 @@ SchemaDatabase::SchemaDatabase(const std::filesystem::path& path, Access access)
         verifyReadOnly(path);
         m_connection = std::make_unique<SqliteConnection>(path, SqliteConnection::Mode::ReadOnly);
         schema::configure(*m_connection);
+        m_version = schema::versionOf(*m_connection);
         return;
     }
     // An empty file holds nothing to lose: hosts often create one before handing its name over.
@@ -98,8 +101,15 @@ SchemaDatabase::SchemaDatabase(const std::filesystem::path& path, Access access)
             rollBackHotJournal(path);
         verifyReadOnly(path);
         m_connection = std::make_unique<SqliteConnection>(path, SqliteConnection::Mode::ReadWrite);
+        if (!isReadOnly())
+            schema::migrate(*m_connection, backupPath(path));
     }
     schema::configure(*m_connection);
+    m_version = schema::versionOf(*m_connection);
+}
+
+std::filesystem::path SchemaDatabase::backupPath(const std::filesystem::path& path) {
+    return path.string() + ".before-update";
 }
 
 SchemaDatabase::~SchemaDatabase() = default;
@@ -151,7 +161,7 @@ TableDefinition SchemaDatabase::loadInfo(std::optional<TableInfo> info,
     if (!info)
         throw NotFoundError("There is no table " + std::string(asked) + " in " +
                             inQuotes(path().string()) + ".");
-    auto fields = field_rows::read(*m_connection, info->id, info->name);
+    auto fields = field_rows::read(*m_connection, info->id, info->name, m_version);
     return {std::move(*info), std::move(fields)};
 }
 
@@ -165,9 +175,11 @@ void SchemaDatabase::checkName(const TableInfo& info) const {
                              " already; choose another name.");
 }
 
-void SchemaDatabase::save(TableDefinition& table) {
+void SchemaDatabase::save(TableDefinition& table, const ChangeSet* changes) {
     if (!table.fields)
         throw InvalidOperationError("There are no field definitions to save.");
+    if (changes && changes->empty())
+        return;
     Transaction transaction(*m_connection, Transaction::Kind::Write);
     const auto stored = findTable(table.info.id);
     if (!stored)
@@ -190,7 +202,10 @@ void SchemaDatabase::save(TableDefinition& table) {
         .bind(4, stored->revision + 1)
         .bind(5, std::int64_t{table.info.id})
         .run();
-    field_rows::write(*m_connection, table.info.id, *table.fields);
+    if (changes)
+        field_rows::writeChanges(*m_connection, table.info.id, *table.fields, *changes);
+    else
+        field_rows::write(*m_connection, table.info.id, *table.fields);
     transaction.commit();
     table.info.revision = stored->revision + 1;
 }

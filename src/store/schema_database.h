@@ -12,6 +12,7 @@
 
 namespace morvel {
 
+class ChangeSet;
 class SqliteConnection;
 
 // An SQLite file of table definitions: the catalogue of tables that the designer's look-ups
@@ -25,7 +26,8 @@ class SqliteConnection;
 //
 // Each save is one transaction and checks the revision the definition was loaded at: when
 // someone else saved the table in between, the save throws ConcurrentSaveError and writes
-// nothing.
+// nothing. A file of an older layout is brought up to this one when it is opened for writing,
+// after a copy of it is put beside it (backupPath()).
 class SchemaDatabase final : public Database {
 public:
     // ReadOnly opens an existing file to look at only: nothing is created, every save fails.
@@ -39,6 +41,8 @@ public:
     const std::filesystem::path& path() const;
     // Whether this open made the file (the host may then write the sample tables into it).
     bool created() const { return m_created; }
+    // Where the copy of a file made before its layout is brought up to date goes.
+    static std::filesystem::path backupPath(const std::filesystem::path& path);
     // Whether the file could only be opened for reading (write-protected, or opened ReadOnly);
     // saves then fail.
     bool isReadOnly() const;
@@ -55,8 +59,10 @@ public:
     TableDefinition load(std::string_view name) const;
 
     // Replaces the stored definition of table.info.id (fields, name, display name, type) with
-    // table, then moves table.info.revision on.
-    void save(TableDefinition& table);
+    // table, then moves table.info.revision on. Given the change set from the stored definition,
+    // writes only the rows of what it says changed; an empty one writes nothing at all and leaves
+    // the revision where it was.
+    void save(TableDefinition& table, const ChangeSet* changes = nullptr);
     // Stores table as a new table named table.info.name and makes table.info that new entry.
     void saveAsNew(TableDefinition& table);
 
@@ -71,6 +77,7 @@ private:
 
     std::unique_ptr<SqliteConnection> m_connection;
     bool m_created = false;
+    std::int32_t m_version = 0;
 };
 
 } // namespace morvel
