@@ -10,6 +10,7 @@ MORVEL_PACKAGES=(
     libgtest-dev libgmock-dev googletest libbenchmark-dev
     xvfb xauth x11-utils openbox libgl-dev
     clang libclang-rt-14-dev
+    gcovr
 )
 
 morvel_say() { printf '==> %s\n' "$*"; }

@@ -48,17 +48,6 @@ TEST(FieldDef, ForwardsChangesOfItsStoresWithTheirKey) {
     EXPECT_EQ(kinds[0], Value::Kind::Boolean);
 }
 
-TEST(FieldDef, KeepsLocaleTextsApartByLocaleAndKind) {
-    FieldDef field("Colour", 1100);
-    field.SetLocaleDisplayName("1033", "Colour");
-    field.SetLocaleDescription("1033", "The paint");
-    field.SetLocaleDisplayName("1031", "Farbe");
-    EXPECT_EQ(field.LocaleDisplayName("1033"), "Colour");
-    EXPECT_EQ(field.LocaleDescription("1033"), "The paint");
-    EXPECT_EQ(field.LocaleDisplayName("1031"), "Farbe");
-    EXPECT_EQ(field.LocaleDescription("1031"), "");
-}
-
 TEST(FieldDefs, TellsChangesOfItsFieldsUntilTheyAreRemoved) {
     FieldDefs defs;
     auto field = defs.Add("Amount", 3);

@@ -207,56 +207,47 @@ private:
 
 void checkRows(Verdict& verdict, const control::Morvel& designer, const FieldDefs* fields) {
     const view::ListView& lst = designer.lst;
-    const std::int32_t count = fields ? fields->Count() : 0;
-    verdict.equal(lst.count(), count, "number of rows");
-    const std::int32_t type = lst.columnIndex("Type") - 1;
-    const std::int32_t size = lst.columnIndex("Size") - 1;
-    const std::int32_t displayName = lst.columnIndex("DisplayName") - 1;
-    const std::int32_t validation = lst.columnIndex("Validation") - 1;
-    const std::int32_t ctrlReadOnly = lst.columnIndex("CtrlReadOnly") - 1;
-    const std::int32_t ctrlEdit = lst.columnIndex("CtrlEdit") - 1;
-    const std::int32_t ctrlList = lst.columnIndex("CtrlList") - 1;
-    // Checked after every event over every row: the cheap test first, the message only when a
-    // row is wrong.
-    auto rowIsRight = [&](const view::ListItem& row, std::int32_t i) {
-        const auto field = fields ? fields->find(row.key()) : nullptr;
-        if (!field || row.text() != row.key() || field->Name() != row.key() ||
-            fields->Item(i) != field ||
-            row.subItem(type) != catalogue::typeName(field->FieldType()) ||
-            row.subItem(displayName) != field->DisplayName() ||
-            row.subItem(validation) != catalogue::validationName(field->Validation()) ||
-            row.subItem(ctrlReadOnly) != field->CtrlReadOnly() ||
-            row.subItem(ctrlEdit) != field->CtrlEdit() ||
-            row.subItem(ctrlList) != field->CtrlList())
-            return false;
-        const std::string_view sizeCell = row.subItem(size);
-        return (!catalogue::hasSize(field->FieldType()) && sizeCell.empty()) ||
-               FieldUtility::ToLong(sizeCell) == field->Size();
-    };
+    verdict.equal(lst.count(), fields ? fields->Count() : 0, "number of rows");
+    const auto column = [&](const char* key) { return lst.columnIndex(key) - 1; };
+    const std::int32_t size = column("Size");
+    const std::pair<std::int32_t, const char*> cells[] = {
+        {column("Type"), "type"},
+        {column("DisplayName"), "display name"},
+        {column("Validation"), "validation"},
+        {column("CtrlReadOnly"), "read-only ctrl"},
+        {column("CtrlEdit"), "edit ctrl"},
+        {column("CtrlList"), "list ctrl"}};
+    // Checked after every event over every row: nothing is built unless a row is wrong.
     for (std::int32_t i = 1; i <= lst.count() && verdict.ok(); ++i) {
         const view::ListItem& row = lst.item(i);
-        if (rowIsRight(row, i))
-            continue;
-        const std::string where =
-            "row " + std::to_string(i) + " \"" + std::string(row.key()) + "\"";
-        verdict.equal(row.text(), row.key(), where + " text");
         const auto field = fields ? fields->find(row.key()) : nullptr;
-        verdict.require(field && field->Name() == row.key(), where + " is a field's name");
-        verdict.require(field && fields->Item(i) == field, where + " stands in collection order");
-        if (!verdict.ok())
+        const auto where = [&] {
+            return "row " + std::to_string(i) + " \"" + std::string(row.key()) + "\"";
+        };
+        if (!field || row.text() != row.key() || field->Name() != row.key() ||
+            fields->Item(i) != field) {
+            verdict.equal(row.text(), row.key(), where() + " text");
+            verdict.require(field && field->Name() == row.key(), where() + " is a field's name");
+            verdict.require(field && fields->Item(i) == field,
+                            where() + " stands in collection order");
             return;
-        verdict.equal(row.subItem(type), catalogue::typeName(field->FieldType()), where + " type");
-        verdict.equal(row.subItem(displayName), field->DisplayName(), where + " display name");
-        verdict.equal(row.subItem(validation), catalogue::validationName(field->Validation()),
-                      where + " validation");
-        verdict.equal(row.subItem(ctrlReadOnly), field->CtrlReadOnly(), where + " read-only ctrl");
-        verdict.equal(row.subItem(ctrlEdit), field->CtrlEdit(), where + " edit ctrl");
-        verdict.equal(row.subItem(ctrlList), field->CtrlList(), where + " list ctrl");
+        }
+        const std::string_view expected[] = {catalogue::typeName(field->FieldType()),
+                                             field->DisplayName(),
+                                             catalogue::validationName(field->Validation()),
+                                             field->CtrlReadOnly(),
+                                             field->CtrlEdit(),
+                                             field->CtrlList()};
+        for (std::size_t c = 0; c < std::size(cells); ++c)
+            if (row.subItem(cells[c].first) != expected[c])
+                verdict.equal(row.subItem(cells[c].first), expected[c],
+                              where() + " " + cells[c].second);
         // The size cell shows what was typed, which converts to the stored size. Other types show
         // none, unless typed into: the size box stays visible after a field with a size.
-        const std::string sizeCell(row.subItem(size));
-        if (catalogue::hasSize(field->FieldType()) || !sizeCell.empty())
-            verdict.equal(FieldUtility::ToLong(sizeCell), field->Size(), where + " size");
+        const std::string_view sizeCell = row.subItem(size);
+        if ((catalogue::hasSize(field->FieldType()) || !sizeCell.empty()) &&
+            FieldUtility::ToLong(sizeCell) != field->Size())
+            verdict.equal(FieldUtility::ToLong(sizeCell), field->Size(), where() + " size");
     }
 }
 

@@ -10,6 +10,7 @@
 #include "reliability/random_collection.h"
 #include "testing/in_memory_database.h"
 
+#include <numeric>
 #include <typeinfo>
 
 namespace morvel::reliability {
@@ -41,16 +42,6 @@ const std::set<std::string> kShownDiffers{"txtName", "txtIDField", "txtDispField
 
 std::string answerYesNo(RandomSource& random) {
     return random.chance(0.6) ? "?Yes" : "?No";
-}
-
-std::string removeLastCharacter(std::string text) {
-    while (!text.empty()) {
-        const auto byte = static_cast<unsigned char>(text.back());
-        text.pop_back();
-        if ((byte & 0xC0U) != 0x80U)
-            break;
-    }
-    return text;
 }
 
 // The UTF-8 characters of text, one string each.
@@ -302,9 +293,13 @@ void DesignerSession::type(view::Control& control, const Event& event) {
     case Event::Typing::Replace:
         put(event.text);
         return;
-    case Event::Typing::Backspace:
-        put(removeLastCharacter(text()));
+    case Event::Typing::Backspace: {
+        std::vector<std::string> kept = characters(text());
+        if (!kept.empty())
+            kept.pop_back();
+        put(std::accumulate(kept.begin(), kept.end(), std::string()));
         return;
+    }
     case Event::Typing::Append:
         // One Change per keystroke, as a keyboard gives them.
         for (const std::string& character : characters(event.text))
@@ -405,10 +400,8 @@ void DesignerSession::watchWrites() {
 std::optional<std::string> DesignerSession::checkWrites(const Event& event,
                                                         const FieldDef* shown) const {
     using Kind = Event::Kind;
-    const bool byHost = event.kind == Kind::HostAdd || event.kind == Kind::HostRemove ||
-                        event.kind == Kind::HostReplace || event.kind == Kind::HostCanModify ||
-                        event.kind == Kind::HostDatabase || event.kind == Kind::HostRename ||
-                        event.kind == Kind::HostWrite || event.kind == Kind::HostMove;
+    // The host's kinds stand together, from HostAdd to HostMove.
+    const bool byHost = event.kind >= Kind::HostAdd && event.kind <= Kind::HostMove;
     // A host's change first leaves the focused box, so an edit that a box stores on leaving lands
     // in the field it was typed for, the one shown before the change; nothing else may be written.
     const bool onlyLeaving = m_writtenOnLeave == m_written.size();
@@ -566,13 +559,10 @@ std::optional<std::string> DesignerSession::runEditList(view::Form& form, const 
         auto& list = editor.lstValues;
         switch (step.kind) {
         case Event::Kind::DialogButton:
-            if (step.target == "cmdNew")
-                editor.cmdNew.click();
-            else if (step.target == "cmdAddSpecific")
-                editor.cmdAddSpecific.click();
-            else if (step.target == "cmdCancel")
-                editor.cmdCancel.click();
-            else if (step.target == "cmdOK") {
+            for (view::Button* button : {&editor.cmdNew, &editor.cmdAddSpecific, &editor.cmdCancel})
+                if (button->name() == step.target)
+                    button->click();
+            if (step.target == "cmdOK") {
                 editor.cmdOK.click();
                 // What OK wrote: the rows, in the list's order after its re-sort.
                 written.emplace();
@@ -654,12 +644,10 @@ std::optional<std::string> DesignerSession::runEditLocales(view::Form& form, con
                                      .text())
                     blank.erase(
                         {std::string(selected->key()), step.target == "txtDisplayName" ? 1 : 2});
-                if (step.target == "txtDisplayName")
-                    editor.txtDisplayName.type(step.text);
-                else if (step.target == "txtDescription")
-                    editor.txtDescription.type(step.text);
-                else
-                    editor.txtLinkLocale.type(step.text);
+                for (view::TextBox* box :
+                     {&editor.txtDisplayName, &editor.txtDescription, &editor.txtLinkLocale})
+                    if (box->name() == step.target)
+                        box->type(step.text);
                 break;
             default:
                 break;

@@ -8,6 +8,7 @@
 #include "store/sample_schema.h"
 #include "store/schema_database.h"
 #include "store/store_error.h"
+#include "store/temp_dir.h"
 #include "testing/scripted_modal_host.h"
 #include "testing/scripted_prompter.h"
 #include "view/modal_host.h"
@@ -47,7 +48,7 @@ constexpr int kKills = 200;
 }
 
 TEST(StorageFaults, KilledSavesLeaveTheOldOrTheNewDefinitionExactly) {
-    ScratchDir dir;
+    testing::TempDir dir;
     const auto path = dir.file("schema.morvel");
     const auto first = randomCollection(101, 150);
     const auto second = randomCollection(202, 150);
@@ -131,7 +132,7 @@ struct Person {
 };
 
 TEST(StorageFaults, SecondSaveOfOneTableIsRefusedAndLosesNoEdits) {
-    ScratchDir dir;
+    testing::TempDir dir;
     const auto path = dir.file("schema.morvel");
     {
         SchemaDatabase database(path);
@@ -146,6 +147,7 @@ TEST(StorageFaults, SecondSaveOfOneTableIsRefusedAndLosesNoEdits) {
     second.table.fields->Add("SecondsField", 8);
 
     first.database.save(first.table);
+    const std::string bytes = testing::fileBytes(path);
     try {
         second.database.save(second.table);
         FAIL() << "the second save was accepted";
@@ -154,6 +156,8 @@ TEST(StorageFaults, SecondSaveOfOneTableIsRefusedAndLosesNoEdits) {
                   std::string::npos)
             << error.what();
     }
+    EXPECT_EQ(testing::fileBytes(path), bytes) << "the refused save wrote nothing";
+    EXPECT_EQ(second.table.info.revision, 1);
     // The refused edits are still in the second window.
     EXPECT_EQ(second.designer.SelectedFieldDef()->Name(), "SecondsField");
     EXPECT_EQ(second.table.fields->Item(otherField)->Description(), "Second's note");
@@ -166,6 +170,7 @@ TEST(StorageFaults, SecondSaveOfOneTableIsRefusedAndLosesNoEdits) {
 
     // Or merged into the table as it is now: reload, take over the edits, save.
     TableDefinition reloaded = second.database.load("Orders");
+    EXPECT_EQ(reloaded.info.revision, 2);
     reloaded.fields->Item(otherField)->SetDescription("Second's note");
     reloaded.fields->Add("SecondsField", 8);
     second.designer.SetFieldDefs(reloaded.fields);
@@ -182,7 +187,7 @@ TEST(StorageFaults, SecondSaveOfOneTableIsRefusedAndLosesNoEdits) {
 }
 
 TEST(StorageFaults, FullDiskDuringSaveKeepsThePreviousDefinition) {
-    ScratchDir dir;
+    testing::TempDir dir;
     const auto path = dir.file("schema.morvel");
     std::string before;
     {

@@ -3,7 +3,6 @@
 #include <atomic>
 #include <sqlite3.h>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace morvel::reliability {
 
@@ -53,18 +52,6 @@ void limitDatabasePages(std::int64_t pages) {
     }();
     (void)registered;
     g_pageLimit = pages;
-}
-
-ScratchDir::ScratchDir() {
-    static std::atomic<int> counter = 0;
-    m_path = std::filesystem::temp_directory_path() /
-             ("morvel-reliability-" + std::to_string(::getpid()) + "-" + std::to_string(++counter));
-    std::filesystem::create_directories(m_path);
-}
-
-ScratchDir::~ScratchDir() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
 }
 
 } // namespace morvel::reliability

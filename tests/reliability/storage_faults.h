@@ -18,17 +18,4 @@ std::int64_t pageCount(const std::filesystem::path& path);
 // pages, as a full disk would stop it; 0 lifts the limit.
 void limitDatabasePages(std::int64_t pages);
 
-// A directory of its own, removed with everything in it afterwards.
-class ScratchDir {
-public:
-    ScratchDir();
-    ScratchDir(const ScratchDir&) = delete;
-    ScratchDir& operator=(const ScratchDir&) = delete;
-    ~ScratchDir();
-    std::filesystem::path file(const std::string& name) const { return m_path / name; }
-
-private:
-    std::filesystem::path m_path;
-};
-
 } // namespace morvel::reliability
