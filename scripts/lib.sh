@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The Morvel developers
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # Shell code shared by scripts/setup and scripts/test. Source it; it runs nothing by itself.
 
@@ -10,6 +12,7 @@ MORVEL_PACKAGES=(
     libgtest-dev libgmock-dev googletest libbenchmark-dev
     xvfb xauth x11-utils openbox libgl-dev
     clang libclang-rt-14-dev
+    reuse
 )
 
 morvel_say() { printf '==> %s\n' "$*"; }
