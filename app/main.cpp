@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // morvel-designer: designs the fields of the tables kept in a Morvel database.
 #include "command_line.h"
 

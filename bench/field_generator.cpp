@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "field_generator.h"
 
 #include "catalogue/property_keys.h"

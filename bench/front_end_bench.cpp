@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // MorvelWidget on the offscreen platform: each operation as the person or the host starts it,
 // measured until the list has repainted. Compared in the table with the same operation on the
 // plain QTreeWidget of tree_widget_reference.cpp.

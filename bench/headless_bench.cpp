@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The designer without a screen: what each operation costs in the control's own logic, on a
 // designer that already holds N fields. Every benchmark leaves the shared designer as it found it.
 

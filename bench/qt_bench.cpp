@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The Qt front end on the offscreen platform, each operation measured until its repaint, next to
 // the plain QTreeWidget reference (tree_widget_reference.cpp) in the same run.
 

@@ -1,4 +1,6 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Morvel developers
+# SPDX-License-Identifier: MIT
 """Prints the benchmark table: operation, N, median, ratio to the plain Qt reference, goal, met.
 
 Medians are of wall-clock time, as the goals are; the median CPU time of the process is shown

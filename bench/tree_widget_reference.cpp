@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The reference: the same field list in a plain QTreeWidget with eight columns, filled item by
 // item, with Qt's defaults (only the root decoration is off, as in any flat list) and the
 // designer's column widths, and under it a plain QLineEdit as wide as the designer's display

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The Morvel developers
+# SPDX-License-Identifier: MIT
 # The installed, exported package: a host writes find_package(Morvel) and links Morvel::control.
 include(CMakePackageConfigHelpers)
 

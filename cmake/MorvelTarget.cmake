@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The Morvel developers
+# SPDX-License-Identifier: MIT
 # One place for the build policy that every Morvel target shares.
 
 set(MORVEL_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion

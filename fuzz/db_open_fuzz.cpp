@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // Opening a table definition database must give a clear StoreError for any file that is not a
 // sound Morvel database, and must not write a byte into a file it refuses. A file it accepts must
 // then load and search without any other kind of failure. The inputs are whole files: random

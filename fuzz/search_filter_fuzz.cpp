@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The two searches that take text from a person or a host: the table search filter of Database
 // ("TableType=<n>") and the text match of Find (any case, anywhere in the name or type name).
 // Input: the filter, then optionally a newline and the text that Find looks for; the first byte

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // ToLong runs on every keystroke of a numeric box, so it must take any text a person can type and
 // give the number the rule promises, never fail. The fuzzer checks it against a second, simpler
 // reading of the same rule.

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The Morvel developers
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # Shell code shared by scripts/setup and scripts/test. Source it; it runs nothing by itself.
 
@@ -11,6 +13,7 @@ MORVEL_PACKAGES=(
     xvfb xauth x11-utils openbox libgl-dev
     clang libclang-rt-14-dev
     gcovr
+    reuse
 )
 
 morvel_say() { printf '==> %s\n' "$*"; }

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "base/handler_policy.h"
 #include "base/text.h"
 #include "catalogue/field_types.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "interchange/table_json.h"
 
 #include "catalogue/field_types.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "qt/control_binder.h"
 #include "qt/list_view_binder.h"
 #include "qt/simple_binders.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "testing/memory_property_bag.h"
 
 namespace morvel::testkit {

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Test doubles live in morvel::testkit, not morvel::testing, so that they never hide

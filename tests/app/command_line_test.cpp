@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // morvel-designer as a person or a script runs it from the command line.
 #include <QDir>
 #include <QFile>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The host window as a person uses it, keys and mouse on the real widgets; every message box is
 // answered by a scripted prompter.
 #include "designer_window.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "control/designer_fixture.h"
 #include "testing/snapshot.h"
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "dialogs/dialog_support.h"
 #include "dialogs/frm_edit_list.h"
 #include "testing/scripted_modal_host.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "history/change_set.h"
 #include "history/history.h"
 #include "reliability/random_collection.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "base/error.h"
 #include "history/history.h"
 #include "reliability/random_collection.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // Plays seeded random input into a real morvel-designer window for a while, and fails on a crash,
 // a sanitizer report, a hang (no event processed for 10 s) or a database that fails its
 // integrity check. Prints the seed and the last events on every failure.

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The Morvel developers
+# SPDX-License-Identifier: MIT
 # cmake -P script run by the package test: install, configure the consumer against the install
 # alone, build it, run it and check what it prints.
 

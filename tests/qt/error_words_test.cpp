@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // Failures that reach the person, raised where the program raises them, as the person reads them:
 // plain words, the information icon for a mistake, and never a control name, key or class name.
 #include "fields/field_defs.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The binding against a small hand-built form: each person's action raises its event once, in
 // the model; the model's changes show in the widgets; failures are shown and survived.
 #include "base/error.h"

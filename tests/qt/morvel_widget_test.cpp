@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The designer through its real widgets, as a person would use it.
 #include "fields/field_defs.h"
 #include "qt/list_view_model.h"

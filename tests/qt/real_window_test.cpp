@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The designer in a real window under a window manager, where windows are activated and the
 // keyboard focus is real: stray keys after a Find must not reach a box of the panel. (Off screen
 // no window is ever active, the focus stays empty and such faults cannot show.)

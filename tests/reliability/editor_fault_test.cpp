@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // Stored data that no editor writes but a database or a host may hold: the editors must open it
 // without an error escaping.
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "reliability/event_shrinker.h"
 
 #include "reliability/designer_session.h"

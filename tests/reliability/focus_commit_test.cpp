@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // A box that stores its text when the focus leaves it must store it into the field it was typed
 // for, also when the host changes the collection while the person is still in the box.
 

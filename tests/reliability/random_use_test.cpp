@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // Long random use of the whole designer: a seeded run of events a person and a host can cause,
 // with every invariant checked after each one. A failing seed prints a shrunk reproduction.
 //

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // Faults around saving: the saving process killed at random instants, two designers saving one
 // table, and a disk that fills up during a save. Nothing may be half written, and no person's
 // edits may be lost.

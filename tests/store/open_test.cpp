@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "store/schema.h"
 #include "store/schema_database.h"
 #include "store/store_error.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "catalogue/field_types.h"
 #include "store/sample_schema.h"
 #include "store/schema_database.h"

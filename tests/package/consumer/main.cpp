@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // Uses the installed headers and libraries the way a host does.
 #include "catalogue/field_types.h"
 #include "fields/field_defs.h"
