@@ -94,6 +94,12 @@ std::string describe(const Event& event) {
                " the write of seed " + std::to_string(event.seed);
     case Kind::HostMove:
         return "host moves field " + n + " to " + n2;
+    case Kind::Undo:
+        return "undo";
+    case Kind::Redo:
+        return "redo";
+    case Kind::JumpInHistory:
+        return "jump to step " + n + " of the history";
     case Kind::DialogButton:
         return event.target + answersOf(event);
     case Kind::DialogClickRow:
