@@ -5,7 +5,9 @@
 // plain QTreeWidget of tree_widget_reference.cpp.
 
 #include "bench_plan.h"
+#include "commands/history_commands.h"
 #include "field_generator.h"
+#include "history/history.h"
 #include "qt/morvel_widget.h"
 #include "qt_harness.h"
 
@@ -194,6 +196,34 @@ void Qt_AfterRemove(State& state) {
     }
 }
 
+// A digit typed into the display name of the last row, then Ctrl+Z and Ctrl+Shift+Z in turn as
+// the window runs them: each step written back, followed by the designer and repainted.
+void Qt_UndoRedoStep(State& state) {
+    FrontEnd& world = FrontEnd::shared(fieldCount(state));
+    History history(*world.defs);
+    commands::HistoryCommands commands(world.widget.morvel());
+    world.tree.setFocus();
+    FrontEnd::press(world.tree, Qt::Key_End, Qt::ControlModifier);
+    world.probe.waitForPaint();
+    QLineEdit& box = world.lineEdit(world.widget.morvel().txtDisplayName);
+    box.setFocus();
+    box.end(false);
+    FrontEnd::press(box, Qt::Key_0, {}, "0");
+    world.probe.waitForPaint();
+    bool back = false;
+    for (auto _ : state) {
+        back = !back;
+        if (!(back ? commands.undo(history) : commands.redo(history)))
+            state.SkipWithError("there was no step to take");
+        checkPainted(state, world.probe.waitForPaint());
+    }
+    if (!back)
+        commands.undo(history);
+    world.tree.setFocus();
+    FrontEnd::press(world.tree, Qt::Key_Home, Qt::ControlModifier);
+    world.probe.waitForPaint();
+}
+
 const bool kRegistered = [] {
     using benchmark::kMillisecond;
     const std::initializer_list<SizePlan> interaction{{1000, 30}, {10000, 30}, {100000, 30}};
@@ -203,6 +233,7 @@ const bool kRegistered = [] {
     registerPlans("Qt_KeystrokeCell", Qt_KeystrokeCell, kMillisecond, interaction);
     registerPlans("Qt_AfterAdd", Qt_AfterAdd, kMillisecond, interaction);
     registerPlans("Qt_AfterRemove", Qt_AfterRemove, kMillisecond, interaction);
+    registerPlans("Qt_UndoRedoStep", Qt_UndoRedoStep, kMillisecond, interaction);
     return true;
 }();
 

@@ -29,11 +29,16 @@ OPERATIONS = {
     "Headless_AfterAdd": ("headless: AfterAdd in the middle", 1 * MS, None),
     "Headless_AfterRemove": ("headless: AfterRemove in the middle", 6 * MS, None),
     "Headless_FindNextWorstCase": ("headless: find next, worst case", 2 * MS, None),
+    "History_RecordChange": ("history: record one change", 0.001 * MS, None),
+    "History_UndoRedoStep": ("history: undo or redo one step, field shown", 1 * MS, None),
+    "History_UndoRemoval": ("history: undo or redo a removal in the middle", 6 * MS, None),
+    "History_Undo1000Keystrokes": ("history: undo 1,000 keystroke steps", 100 * MS, None),
     "Qt_FirstPaint": ("qt: FieldDefs to first paint", 100 * MS, "Reference_FillPaint"),
     "Qt_SelectLastRow": ("qt: select + scroll to last row", FRAME, "Reference_SelectLastRow"),
     "Qt_KeystrokeCell": ("qt: keystroke changing a cell", FRAME, "Reference_KeystrokeCell"),
     "Qt_AfterAdd": ("qt: AfterAdd + repaint", FRAME, "Reference_InsertMiddle"),
     "Qt_AfterRemove": ("qt: AfterRemove + repaint", FRAME, "Reference_RemoveMiddle"),
+    "Qt_UndoRedoStep": ("qt: undo or redo one step + repaint", FRAME, None),
     "Reference_FillPaint": ("reference QTreeWidget: fill + paint", None, None),
     "Reference_SelectLastRow": ("reference QTreeWidget: select + scroll last", None, None),
     "Reference_CellChange": ("reference QTreeWidget: change a cell", None, None),
@@ -137,6 +142,11 @@ def rows(medians):
         if scaling:
             out.append(scaling[0])
             missed += scaling[1]
+    for n in sizes:
+        run = medians.get(("History_Undo1000Keystrokes", n))
+        if run and "bytes_per_keystroke_step" in run:
+            out.append(("history: bytes per keystroke step", n,
+                        f"{run['bytes_per_keystroke_step']:.0f} B", "", "", "", ""))
     for n in sizes:
         run = medians.get(("Headless_MemoryPerField", n))
         if run and "heap_bytes_per_field" in run:

@@ -98,6 +98,15 @@ void Morvel::followFieldChange(const FieldChange& change) {
 }
 
 void Morvel::followInsertion(const FieldPlaced& placed) {
+    // AfterAdd readies the name box for a new field's name. A field that undo or redo puts back
+    // has its name already: the box is left without storing it, as the library would store the
+    // box's text differently (a leading digit goes), and the host decides where the focus goes.
+    const bool replayed =
+        placed.step.origin == ChangeOrigin::Undo || placed.step.origin == ChangeOrigin::Redo;
+    if (replayed && focused() == &txtName) {
+        const ScopedFlag showing(m_panelLoading);
+        clearFocus();
+    }
     // AfterAdd has added the row at the end (or found one with the name).
     view::ListItem* row = lst.find(placed.field->Name());
     if (!row)

@@ -87,6 +87,14 @@ TEST_F(HistoryCommandsTest, UndoAndRedoShowTheFieldAndPageTheStepChanged) {
              hostStep("Remove field C", [&] { fields->Remove("C"); });
          },
          "A B C D|C|1|lst", "A B D|D|1|lst"},
+        {"the removal of a field whose name the name box would store otherwise",
+         [&] {
+             fields->Item("C")->SetName("3C");
+             history->clear();
+             clickRow("3C");
+             hostStep("Remove field 3C", [&] { fields->Remove("3C"); });
+         },
+         "A B 3C D|3C|1|lst", "A B D|D|1|lst"},
         {"the removal of another field",
          [&] {
              clickRow("A");

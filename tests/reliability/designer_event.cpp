@@ -11,8 +11,9 @@ constexpr const char* kKindNames[] = {
     "click row",     "type into",    "pick",         "click",         "click tab",
     "focus",         "cmdFind",      "cmdFindNext",  "cmdList",       "cmdLocale",
     "resize",        "host adds",    "host removes", "host replaces", "host CanModifyExisting",
-    "host Database", "host renames", "host writes",  "host moves",    "button",
-    "click row",     "type into",    "rename row",   "key",           "resize"};
+    "host Database", "host renames", "host writes",  "host moves",    "undo",
+    "redo",          "jump to step", "button",       "click row",     "type into",
+    "rename row",    "key",          "resize"};
 constexpr const char* kTypingNames[] = {"replace with", "append", "backspace"};
 
 // Quoted, with bytes that are not printable ASCII written as \xNN so a reproduction is exact.

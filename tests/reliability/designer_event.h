@@ -34,6 +34,10 @@ struct Event {
         HostRename,    // number: position; number2: 1 for the field shown; text: the new name
         HostWrite,     // number: position; number2: 1 for the field shown; seed: the write
         HostMove,      // number, number2: from and to
+        // The history, as the Edit menu and the list of steps run it.
+        Undo,
+        Redo,
+        JumpInHistory, // number: the step, modulo the steps there are
         // Steps inside the editors.
         DialogButton,    // target: button; answers for its boxes
         DialogClickRow,  // number

@@ -11,6 +11,7 @@
 #include "reliability/designer_invariants.h"
 #include "reliability/random_collection.h"
 #include "testing/in_memory_database.h"
+#include "testing/snapshot.h"
 
 #include <numeric>
 #include <typeinfo>
@@ -69,6 +70,23 @@ bool wellFormedLocales(const FieldDef& field) {
     return true;
 }
 
+// The first line in which two snapshots differ, as "was | is".
+std::string firstDifference(const std::string& was, const std::string& is) {
+    std::size_t start = 0;
+    while (start < was.size() && start < is.size()) {
+        const std::size_t end = std::min(was.find('\n', start), was.size());
+        if (was.compare(start, end - start, is, start, end - start) != 0 ||
+            (end < is.size() && is[end] != '\n'))
+            break;
+        start = end + 1;
+    }
+    auto line = [&](const std::string& text) {
+        return start >= text.size() ? std::string("(end)")
+                                    : text.substr(start, text.find('\n', start) - start);
+    };
+    return line(was) + " | " + line(is);
+}
+
 std::string storeText(const PropertyStore& store) {
     std::string text;
     for (const ListEntry& entry : store)
@@ -80,7 +98,8 @@ std::string storeText(const PropertyStore& store) {
 
 DesignerSession::DesignerSession()
     : m_database(std::make_shared<testkit::InMemoryDatabase>())
-    , m_designer(std::make_unique<control::Morvel>(m_prompter, m_modalHost)) {
+    , m_designer(std::make_unique<control::Morvel>(m_prompter, m_modalHost))
+    , m_steps(*m_designer) {
     m_database->addTable({1, "Customers", "Customers", 2});
     m_database->addTable({2, "Products", "Product Catalogue", 2});
     m_database->addTable({3, "OrderLines", "Order Lines", 4});
@@ -155,6 +174,12 @@ Event DesignerSession::generate(RandomSource& random) {
     }
     if (roll < 125)
         return Event{Kind::HostMove, "", "", random.between(0, 100000), random.between(0, 100000)};
+    if (roll < 132)
+        return Event{Kind::Undo};
+    if (roll < 136)
+        return Event{Kind::Redo};
+    if (roll < 138)
+        return Event{Kind::JumpInHistory, "", "", random.between(0, 100000)};
     if (roll < 200)
         return Event{Kind::ClickRow, "", "", random.between(0, 100000)};
     if (roll < 230) {
@@ -407,6 +432,9 @@ std::optional<std::string> DesignerSession::checkWrites(const Event& event,
     // A host's change first leaves the focused box, so an edit that a box stores on leaving lands
     // in the field it was typed for, the one shown before the change; nothing else may be written.
     const bool onlyLeaving = m_writtenOnLeave == m_written.size();
+    // Undo and redo write wherever the steps they apply wrote.
+    if (event.kind == Kind::Undo || event.kind == Kind::Redo || event.kind == Kind::JumpInHistory)
+        return std::nullopt;
     for (const FieldDef* field : m_written) {
         if (byHost && (field != shown || !onlyLeaving))
             return "the host's change wrote to field \"" + field->Name() + "\": " + m_firstWrite;
@@ -489,11 +517,36 @@ std::optional<std::string> DesignerSession::run(const Event& event) {
             m_fields->Remove(m_fields->Item(event.number % m_fields->Count() + 1)->Name());
         return std::nullopt;
     case Kind::HostReplace:
+        if (auto broken = undoAndRedoEverything())
+            return broken;
+        // What that wrote is the history's; from here on, handing over and showing writes nothing.
+        m_written.clear();
+        m_writtenOnLeave = 0;
+        m_history.reset();
         m_fields = randomCollection(event.seed, event.number);
         watchWrites();
         d.SetFieldDefs(m_fields);
+        // Handing the fields over is no edit: the history starts here.
+        m_history = std::make_unique<History>(*m_fields);
+        m_handedOver = testkit::fieldsSnapshot(*m_fields);
         m_pending.clear();
         return std::nullopt;
+    case Kind::Undo:
+    case Kind::Redo:
+    case Kind::JumpInHistory: {
+        if (!m_history)
+            return std::nullopt;
+        const bool applied =
+            event.kind == Kind::Undo ? m_steps.undo(*m_history)
+            : event.kind == Kind::Redo
+                ? m_steps.redo(*m_history)
+                : m_steps.jumpTo(*m_history,
+                                 static_cast<std::size_t>(event.number) % (m_history->count() + 1));
+        // The field the step changed is shown again, as stored.
+        if (applied)
+            m_pending.clear();
+        return std::nullopt;
+    }
     case Kind::HostRename:
     case Kind::HostWrite:
         return runHostWrite(event);
@@ -511,6 +564,27 @@ std::optional<std::string> DesignerSession::run(const Event& event) {
     default:
         return "a dialog step outside a dialog";
     }
+}
+
+std::optional<std::string> DesignerSession::undoAndRedoEverything() {
+    if (!m_history || m_history->cleanIndex() != 0u)
+        return std::nullopt;
+    m_steps.commitEdit();
+    // The present state, which need not be the last one: steps may have been undone.
+    const std::size_t present = m_history->index();
+    const std::string edited = testkit::fieldsSnapshot(*m_fields);
+    m_steps.jumpTo(*m_history, 0);
+    if (const std::string undone = testkit::fieldsSnapshot(*m_fields); undone != m_handedOver)
+        return "undoing every step did not give back the fields handed over: " +
+               firstDifference(m_handedOver, undone);
+    if (auto broken = checkDesigner(*m_designer, m_fields.get(), {}))
+        return "invariant broken after undoing every step: " + *broken;
+    m_steps.jumpTo(*m_history, present);
+    if (const std::string redone = testkit::fieldsSnapshot(*m_fields); redone != edited)
+        return "redoing the steps done did not give back the edited fields: " +
+               firstDifference(edited, redone);
+    m_pending.clear();
+    return std::nullopt;
 }
 
 std::shared_ptr<FieldDef> DesignerSession::hostTarget(const Event& event) const {

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/history_commands.h"
 #include "control/morvel.h"
+#include "history/history.h"
 #include "reliability/designer_event.h"
 #include "reliability/random_source.h"
 #include "testing/in_memory_database.h"
@@ -35,6 +37,11 @@ public:
     // of the first broken rule (an error that may not escape, or an invariant) is returned.
     std::optional<std::string> apply(const Event& event);
 
+    // Undoes every step of the collection's history and compares it with the collection as it was
+    // handed over, then redoes the steps that were done and compares it with the edited one; the
+    // difference when either is not exact. Nothing to check once the oldest steps were dropped.
+    std::optional<std::string> undoAndRedoEverything();
+
     std::uint64_t allowedErrors() const { return m_allowedErrors; }
     std::uint64_t dialogSteps() const { return m_dialogSteps; }
     // Writes of the known fault that a host's addition commits a box into the added field.
@@ -65,6 +72,10 @@ private:
     std::shared_ptr<testkit::InMemoryDatabase> m_database;
     std::unique_ptr<control::Morvel> m_designer;
     std::shared_ptr<FieldDefs> m_fields;
+    // After the collection: it watches the collection and goes first.
+    std::unique_ptr<History> m_history;
+    std::string m_handedOver;
+    commands::HistoryCommands m_steps;
     std::unordered_map<std::string, view::Control*> m_controls;
     // Controls whose shown value may differ from the stored one until the panel loads again.
     std::set<std::string> m_pending;

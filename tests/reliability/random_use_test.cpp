@@ -60,6 +60,7 @@ TEST_P(RandomUse, KeepsEveryInvariantAndLosesNothing) {
                    << reproduction;
         }
     }
+    EXPECT_EQ(session.undoAndRedoEverything(), std::nullopt) << "seed " << seed;
     EXPECT_EQ(unexpectedFailureCount(), 0)
         << "failures that are not the library's were passed over";
     const double seconds =
