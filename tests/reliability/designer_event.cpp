@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "reliability/designer_event.h"
 
+#include <iterator>
+
 namespace morvel::reliability {
 
 namespace {
@@ -14,6 +16,8 @@ constexpr const char* kKindNames[] = {
     "host Database", "host renames", "host writes",  "host moves",    "undo",
     "redo",          "jump to step", "button",       "click row",     "type into",
     "rename row",    "key",          "resize"};
+static_assert(std::size(kKindNames) == static_cast<std::size_t>(Event::Kind::DialogResize) + 1,
+              "one name for every kind of event");
 constexpr const char* kTypingNames[] = {"replace with", "append", "backspace"};
 
 // Quoted, with bytes that are not printable ASCII written as \xNN so a reproduction is exact.
