@@ -569,6 +569,10 @@ std::optional<std::string> DesignerSession::run(const Event& event) {
 std::optional<std::string> DesignerSession::undoAndRedoEverything() {
     if (!m_history || m_history->cleanIndex() != 0u)
         return std::nullopt;
+    // An emptied name box refuses to be left, so the edit cannot be ended and the history
+    // cannot be walked past it: the designer says why, as any other leave of that box would.
+    if (m_designer->focused() == &m_designer->txtName && m_designer->txtName.text().empty())
+        return std::nullopt;
     m_steps.commitEdit();
     // The present state, which need not be the last one: steps may have been undone.
     const std::size_t present = m_history->index();
