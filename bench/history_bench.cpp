@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // Undo and redo without a screen: what recording a change costs, and what taking a step back or
 // forward costs in the history and in the designer that follows it, at N fields. Each benchmark
 // leaves the shared designer as it found it and drops the history it made.
