@@ -1,7 +1,6 @@
 // The designer through its real widgets, as a person would use it.
-#include "fields/field_defs.h"
+#include "qt/designer_widget.h"
 #include "qt/list_view_model.h"
-#include "qt/morvel_widget.h"
 #include "testing/snapshot.h"
 
 #include <QAbstractItemView>
@@ -19,27 +18,11 @@
 
 using namespace morvel;
 
-class MorvelWidgetTest : public QObject {
+class MorvelWidgetTest : public QObject, testing::DesignerWidget {
     Q_OBJECT
 
 private:
-    std::unique_ptr<qt::MorvelWidget> designer;
-    std::shared_ptr<FieldDefs> defs;
-
-    control::Morvel& morvel() { return designer->morvel(); }
-    template <typename W> W& widget(const view::Control& control) {
-        W* found = designer->binding().widgetAs<W>(control);
-        if (!found)
-            qFatal("no widget for %s", control.name().c_str());
-        return *found;
-    }
-    QTreeView& tree() { return widget<QTreeView>(morvel().lst); }
     QTabBar& tabBar() { return *widget<QWidget>(morvel().TabStrip).findChild<QTabBar*>(); }
-    void clickRow(const char* name) {
-        const int row = morvel().lst.item(name).index() - 1;
-        const QRect cell = tree().visualRect(tree().model()->index(row, 0));
-        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, cell.center());
-    }
     // Picks an entry of a drop-down from its open list, as the mouse would.
     static void pick(QComboBox& combo, const QString& text) {
         combo.showPopup();
@@ -50,22 +33,8 @@ private:
     }
 
 private slots:
-    void init() {
-        defs = std::make_shared<FieldDefs>();
-        defs->Add("Title", 200);
-        defs->Add("Customer", 1000);
-        defs->Add("Colour", 1100);
-        designer = std::make_unique<qt::MorvelWidget>();
-        designer->setCanModifyExisting(true);
-        designer->setFieldDefs(defs);
-        designer->resize(900, 640);
-        designer->show();
-        QVERIFY(QTest::qWaitForWindowActive(designer.get()));
-    }
-    void cleanup() {
-        designer.reset();
-        defs.reset();
-    }
+    void init() { show({{"Title", 200}, {"Customer", 1000}, {"Colour", 1100}}); }
+    void cleanup() { close(); }
 
     void keepsTheMinimumSizeOfTheDesign() {
         QCOMPARE(designer->minimumSize(), QSize(333, 387)); // 5000 x 5800 twips at 96 dpi
@@ -129,17 +98,6 @@ private slots:
         QCOMPARE(tree().currentIndex().row(), 0);
         QVERIFY(tree().selectionModel()->isRowSelected(0, {}));
         defs = other;
-    }
-
-    void theListFollowsRemovalAndSelectsTheFirstRow() {
-        auto& model = *tree().model();
-        QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
-        clickRow("Customer");
-        defs->Remove("Customer");
-        QCOMPARE(removed.count(), 1);
-        QCOMPARE(model.rowCount(), 2);
-        QCOMPARE(tree().currentIndex().row(), 0);
-        QCOMPARE(widget<QLineEdit>(morvel().txtName).text(), QString("Title"));
     }
 
     // Rows that the host inserts, moves or removes shift Qt's current row by themselves; that
