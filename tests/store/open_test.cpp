@@ -98,20 +98,28 @@ TEST(Open, RefusedFilesKeepEveryByte) {
 }
 
 TEST(Open, DamagedRowsAreReportedOnLoad) {
-    testing::TempDir dir;
-    const auto path = dir.file("db");
-    makeMorvelDatabase(path);
-    runSql(path, "INSERT INTO field_values VALUES (1, 1, 0, 1, 'zrDirect.OT', 1, 'twelve')");
-    SchemaDatabase database(path);
-    try {
-        database.load("T");
-        FAIL() << "loaded";
-    } catch (const StoreError& error) {
-        EXPECT_NE(std::string(error.what())
-                      .find("is damaged: the table \"T\" has a whole-number "
-                            "value that is not a whole number"),
-                  std::string::npos)
-            << error.what();
+    // A value of the wrong kind, and values of fields before the first and after the last.
+    const std::pair<const char*, const char*> cases[] = {
+        {"(1, 1, 0, 1, 'zrDirect.OT', 1, 'twelve')",
+         "has a whole-number value that is not a whole number"},
+        {"(1, 0, 0, 1, 'k', 1, 1)", "has values of a field that does not exist"},
+        {"(1, 2001, 0, 1, 'k', 1, 1)", "has values of a field that does not exist"},
+    };
+    for (const auto& [row, said] : cases) {
+        testing::TempDir dir;
+        const auto path = dir.file("db");
+        makeMorvelDatabase(path);
+        runSql(path, (std::string("INSERT INTO field_values VALUES ") + row).c_str());
+        SchemaDatabase database(path);
+        try {
+            database.load("T");
+            ADD_FAILURE() << "loaded " << row;
+        } catch (const StoreError& error) {
+            EXPECT_NE(
+                std::string(error.what()).find(std::string("is damaged: the table \"T\" ") + said),
+                std::string::npos)
+                << error.what();
+        }
     }
 }
 
