@@ -183,5 +183,14 @@ TEST_F(ListViewTest, SortedListPlacesRowsByTheSortColumnIgnoringCase) {
     EXPECT_EQ(keys(), "I1@1 I2@2 I3@3 ");
 }
 
+TEST_F(ListViewTest, LabelEditCanBeCancelledByTheHandler) {
+    ListItem& row = list.add("I1", "New Item");
+    auto veto = list.AfterLabelEdit.connect(
+        [](ListItem&, const std::string& text, bool& cancel) { cancel = text.empty(); });
+    EXPECT_FALSE(list.editLabel(row, ""));
+    EXPECT_TRUE(list.editLabel(row, "Red"));
+    EXPECT_EQ(row.text(), "Red");
+}
+
 } // namespace
 } // namespace morvel::view
