@@ -257,6 +257,18 @@ private slots:
         QVERIFY(prompter.prompts().empty());
     }
 
+    // Closing with edits not saved asks first: Cancel keeps the window and the edits, Discard
+    // closes.
+    void closingAsksAndCancelKeepsTheEdits() {
+        auto window = open();
+        window->table().fields->Item("Total")->SetDisplayName("Grand total");
+        prompter.answer(MsgBoxResult::Cancel);
+        QVERIFY(!window->close());
+        QVERIFY(window->isModified());
+        prompter.answer(MsgBoxResult::No);
+        QVERIFY(window->close());
+    }
+
     // Undo and Redo take back and put again a typed name, a type change and a removal, whatever
     // has the keyboard (a box's own undo must not take the keys), and the modified marker follows
     // the saved point both ways.

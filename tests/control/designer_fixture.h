@@ -46,42 +46,24 @@ protected:
     }
 
     // Types text one character at a time, as a keyboard would: one Change per keystroke.
-    static void typeInto(view::TextBox& box, std::string_view text) {
-        std::string typed = box.text();
-        for (char c : text) {
-            typed += c;
-            box.type(typed);
-            typed = box.text();
-        }
-    }
-    static void typeInto(view::ComboBox& box, std::string_view text) {
-        std::string typed = box.text();
-        for (char c : text) {
-            typed += c;
-            box.type(typed);
-            typed = box.text();
-        }
+    template <typename Box> static void typeInto(Box& box, std::string_view text) {
+        for (char c : text)
+            box.type(box.text() + c);
     }
 
     // Picks the entry with that item data as a person would, from the drop-down.
-    static void pickByData(view::ComboBox& box, int data) {
-        for (int i = 0; i < box.listCount(); ++i)
-            if (box.itemData(i) == data) {
-                box.pick(i);
-                return;
-            }
-        ADD_FAILURE() << box.name() << " offers no entry with item data " << data;
-    }
-
+    static void pickByData(view::ComboBox& box, int data) { box.pick(indexOf(box, data)); }
     // Selects the entry with that item data from code, as a host or a loader would: no focus,
     // no lock check, Click raised when the selection moves.
     static void selectByData(view::ComboBox& box, int data) {
+        box.setListIndex(indexOf(box, data));
+    }
+    static int indexOf(const view::ComboBox& box, int data) {
         for (int i = 0; i < box.listCount(); ++i)
-            if (box.itemData(i) == data) {
-                box.setListIndex(i);
-                return;
-            }
+            if (box.itemData(i) == data)
+                return i;
         ADD_FAILURE() << box.name() << " offers no entry with item data " << data;
+        return -1;
     }
 
     // The item data of the selected entry, or -1 when nothing is selected.
@@ -95,6 +77,19 @@ protected:
         for (int i = 0; i < box.listCount(); ++i)
             out += (i ? "|" : "") + box.list(i);
         return out;
+    }
+
+    // The panel's frame as one line: the name box ("-" after it when disabled), the type's item
+    // data, the tabs with the selected one starred, the visible panels, create on demand.
+    std::string panelState() const {
+        const auto& tabs = designer.TabStrip;
+        std::string out = designer.txtName.text() + (designer.txtName.enabled() ? "|" : "-|") +
+                          std::to_string(selectedData(designer.cboType)) + "|";
+        for (int i = 1; i <= tabs.count(); ++i)
+            out += tabs.caption(i) + (tabs.selectedIndex() == i ? "*," : ",");
+        for (int i = 1; i <= control::PanelArray::kCount; ++i)
+            out += designer.pic(i).visible() ? "|pic" + std::to_string(i) : "";
+        return out + "|cod" + std::to_string(designer.chkCreateOnDemand.value());
     }
 
     // Clicks the row of that field.

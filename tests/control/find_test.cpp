@@ -56,6 +56,15 @@ TEST_F(Find, MatchesNamesAndTypeNamesButNeverTheSelectedRowItself) {
     EXPECT_EQ(prompter.prompts().size(), 2u);
 }
 
+// Only the first row lies above the second, and the search still wraps to it.
+TEST_F(Find, FromTheSecondRowTheSearchWrapsToTheFirst) {
+    clickRow("Owner");
+    prompter.answer("alpha");
+    prompter.answer(view::MsgBoxResult::Yes);
+    designer.cmdFind.click();
+    EXPECT_EQ(shown(), "Alpha");
+}
+
 TEST_F(Find, AnEmptySearchTextMatchesTheNextRow) {
     designer.cmdFindNext.click();
     EXPECT_EQ(shown(), "Owner");

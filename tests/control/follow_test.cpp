@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/field_types.h"
 #include "control/designer_fixture.h"
-#include "control/field_row_index.h"
 
 #include <functional>
 #include <string>
@@ -152,31 +151,6 @@ TEST_F(Following, EachActionsStepIsNamedAfterTheBoxOrChoiceAndTheField) {
             joined.append(joined.empty() ? "" : "|").append(text);
         EXPECT_EQ(joined, expected);
     }
-}
-
-TEST(FieldRowIndex, FindsEveryRowAfterScatteredRemovalsAndReinsertions) {
-    view::Form form("f");
-    view::ListView list(&form, "lst");
-    list.addColumn("Name", "Name", 100);
-    control::FieldRowIndex index;
-    std::vector<FieldId> ids;
-    for (int i = 0; i < 3000; ++i) {
-        ids.push_back(FieldId::fresh());
-        index.set(ids.back(), list.add(std::to_string(i), ""));
-    }
-    for (int i = 0; i < 3000; i += 3)
-        index.erase(ids[static_cast<std::size_t>(i)]);
-    for (int i = 0; i < 3000; i += 6)
-        index.set(ids[static_cast<std::size_t>(i)], list.item(1));
-    int wrong = 0;
-    for (int i = 0; i < 3000; ++i) {
-        const view::ListItem* expected = i % 6 == 0   ? &list.item(1)
-                                         : i % 3 == 0 ? nullptr
-                                                      : list.find(std::to_string(i));
-        wrong += index.find(ids[static_cast<std::size_t>(i)]) != expected;
-    }
-    EXPECT_EQ(wrong, 0);
-    EXPECT_EQ(index.find(FieldId::fresh()), nullptr);
 }
 
 } // namespace

@@ -60,12 +60,11 @@ TEST_F(FieldList, RemovingTheSelectedFieldSelectsAndShowsTheFirstRow) {
     defs->Remove("C");
     EXPECT_TRUE(designer.lst.item("A").selected());
     EXPECT_EQ(designer.SelectedFieldDef(), defs->Item("A"));
-    EXPECT_EQ(designer.txtName.text(), "A");
-
+    EXPECT_EQ(panelState(), "A|200|Properties*,|pic1|cod0");
     defs->Remove("A");
     defs->Remove("B");
     EXPECT_EQ(designer.SelectedFieldDef(), nullptr);
-    EXPECT_FALSE(designer.txtName.enabled());
+    EXPECT_EQ(panelState(), "-|-1|Properties*,|pic1|cod0");
 }
 
 TEST_F(FieldList, TheReplacedCollectionIsNoLongerHeard) {

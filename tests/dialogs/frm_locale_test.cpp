@@ -58,22 +58,21 @@ TEST_F(LocaleTest, RowsComeFromTheFirstSourceThatGivesAnyAndTheTypeShapesTheDial
     EXPECT_EQ(rowsText(descriptions.lstLocale), "1031||Beschreibung");
 
     // Link locales count for "Link" fields only, which alone show their row in a taller dialog.
-    dialogs::frmLocale plain(prompter, host);
-    plain.ShowForm(field(1001, {}, {"LDN1036"}));
-    EXPECT_EQ(plain.lstLocale.count(), 0);
-    EXPECT_FALSE(plain.txtDisplayName.enabled() || plain.cmdDeleteLocale.enabled());
-    EXPECT_FALSE(plain.txtLinkLocale.visible() || plain.lblLinkLocale.visible());
-    EXPECT_EQ(plain.height(), 4725);
-    EXPECT_EQ(plain.cmdClose.top(), 3720);
-
-    dialogs::frmLocale link(prompter, host);
-    link.ShowForm(field(1000, {}, {"LDN1036"}));
-    EXPECT_EQ(rowsText(link.lstLocale), "1036||");
-    EXPECT_EQ(link.txtLinkLocale.text(), "link LDN1036");
-    EXPECT_TRUE(link.txtLinkLocale.visible() && link.lblLinkLocale.visible());
-    EXPECT_EQ(link.height(), 5145);
-    EXPECT_EQ(link.cmdAddLocale.top(), 4080);
-    EXPECT_LE(link.cmdAddLocale.geometry().bottom(), link.scaleHeight());
+    // "rows; link locale box; height; top of the buttons"
+    const auto shape = [&](int type) {
+        dialogs::frmLocale shown(prompter, host);
+        shown.ShowForm(field(type, {}, {"LDN1036"}));
+        EXPECT_LE(shown.cmdAddLocale.geometry().bottom(), shown.scaleHeight());
+        EXPECT_EQ(shown.txtDisplayName.enabled() || shown.cmdDeleteLocale.enabled(),
+                  shown.lstLocale.count() > 0);
+        EXPECT_EQ(shown.lblLinkLocale.visible(), shown.txtLinkLocale.visible());
+        return rowsText(shown.lstLocale) + ";" +
+               (shown.txtLinkLocale.visible() ? shown.txtLinkLocale.text() : "-") + ";" +
+               std::to_string(shown.height()) + ";" + std::to_string(shown.cmdAddLocale.top()) +
+               "," + std::to_string(shown.cmdClose.top());
+    };
+    EXPECT_EQ(shape(1001), ";-;4725;3720,3720");
+    EXPECT_EQ(shape(1000), "1036||;link LDN1036;5145;4080,4080");
 }
 
 TEST_F(LocaleTest, AddWritesNothingUntilTextsAreTyped) {

@@ -126,6 +126,8 @@ TEST_F(HistoryTest, LimitDropsTheOldestSteps) {
     EXPECT_FALSE(history.cleanIndex().has_value());
     history.setIndex(0);
     EXPECT_EQ(fields.Item(1)->Size(), 2);
+    history.setLimit(2); // one step more than the new limit: it goes at once
+    EXPECT_EQ(history.count(), 2u);
 }
 
 // A copy of the list of steps kept by stepsChanged alone reads as the history does through new

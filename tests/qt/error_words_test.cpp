@@ -10,8 +10,6 @@
 #include <QTest>
 #include <functional>
 
-Q_DECLARE_METATYPE(std::function<void()>)
-
 using namespace morvel;
 
 namespace {
@@ -40,42 +38,37 @@ class ErrorWordsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void wordsEachFailureForThePerson_data() {
-        QTest::addColumn<std::function<void()>>("action");
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<bool>("mistake");
-        QTest::newRow("locale added twice")
-            << std::function<void()>([] { addTwice("lstLocale", "K1033"); })
-            << "Locale 1033 is already in the list." << true;
-        QTest::newRow("list value added twice")
-            << std::function<void()>([] { addTwice("lstValues", "I16"); })
-            << "The value 16 is already in the list." << true;
-        QTest::newRow("name taken") << std::function<void()>([] {
-            FieldDefs fields;
-            fields.Add("Total", 8);
-            fields.Add("Notes", 200)->SetName("total");
-        }) << "" << true;
-        QTest::newRow("row missing") << std::function<void()>([] {
-            view::ListView rows(nullptr, "lstLocale");
-            rows.item("K7");
-        }) << kFault << false;
-        QTest::newRow("value of another kind")
-            << std::function<void()>([] { (void)Value(std::string("abc")).asLong(); }) << kFault
-            << false;
-        QTest::newRow("not the library's")
-            << std::function<void()>([] { throw std::logic_error("std::vector"); }) << kFault
-            << false;
-    }
     void wordsEachFailureForThePerson() {
-        QFETCH(std::function<void()>, action);
-        QFETCH(QString, words);
-        QFETCH(bool, mistake);
-        const qt::PersonMessage message = wordsFor(action);
-        if (!words.isEmpty())
-            QCOMPARE(message.text, words);
-        QCOMPARE(message.mistake, mistake);
-        for (const char* internal : {"lst", "K1033", "I16", "Error", "std::"})
-            QVERIFY2(!message.text.contains(internal), qPrintable(message.text));
+        const struct {
+            const char* what;
+            std::function<void()> action;
+            QString words; // empty: any words will do
+            bool mistake;
+        } cases[] = {
+            {"locale added twice", [] { addTwice("lstLocale", "K1033"); },
+             "Locale 1033 is already in the list.", true},
+            {"list value added twice", [] { addTwice("lstValues", "I16"); },
+             "The value 16 is already in the list.", true},
+            {"name taken",
+             [] {
+                 FieldDefs fields;
+                 fields.Add("Total", 8);
+                 fields.Add("Notes", 200)->SetName("total");
+             },
+             "", true},
+            {"row missing", [] { view::ListView(nullptr, "lstLocale").item("K7"); }, kFault, false},
+            {"value of another kind", [] { (void)Value(std::string("abc")).asLong(); }, kFault,
+             false},
+            {"not the library's", [] { throw std::logic_error("std::vector"); }, kFault, false},
+        };
+        for (const auto& c : cases) {
+            const qt::PersonMessage message = wordsFor(c.action);
+            if (!c.words.isEmpty())
+                QCOMPARE(message.text, c.words);
+            QVERIFY2(message.mistake == c.mistake, c.what);
+            for (const char* internal : {"lst", "K1033", "I16", "Error", "std::"})
+                QVERIFY2(!message.text.contains(internal), qPrintable(message.text));
+        }
     }
 };
 

@@ -6,6 +6,7 @@
 #include "qt/error_boundary.h"
 #include "qt/form_binding.h"
 #include "qt/list_view_model.h"
+#include "support/counter.h"
 #include "view/combo_box.h"
 #include "view/form.h"
 #include "view/list_view.h"
@@ -53,14 +54,7 @@ struct TestForm : view::Form {
     view::TabStrip TabStrip{this, "TabStrip"};
 };
 
-// Counts how often a signal is raised.
-struct Counter {
-    int count = 0;
-    Connection connection;
-    template <typename... A>
-    explicit Counter(Signal<A...>& signal)
-        : connection(signal.connect([this](A...) { ++count; })) {}
-};
+using morvel::testing::Counter;
 
 } // namespace
 

@@ -3,9 +3,8 @@
 // The designer in a real window under a window manager, where windows are activated and the
 // keyboard focus is real: stray keys after a Find must not reach a box of the panel. (Off screen
 // no window is ever active, the focus stays empty and such faults cannot show.)
-#include "fields/field_defs.h"
+#include "qt/designer_widget.h"
 #include "qt/focus_ring.h"
-#include "qt/morvel_widget.h"
 #include "qt/real_window.h"
 #include "testing/snapshot.h"
 
@@ -20,21 +19,10 @@
 
 using namespace morvel;
 
-class RealWindowTest : public QObject {
+class RealWindowTest : public QObject, testing::DesignerWidget {
     Q_OBJECT
 
 private:
-    std::unique_ptr<qt::MorvelWidget> designer;
-    std::shared_ptr<FieldDefs> defs;
-
-    control::Morvel& morvel() { return designer->morvel(); }
-    QTreeView& tree() { return *designer->binding().widgetAs<QTreeView>(morvel().lst); }
-
-    void clickRow(const char* name) {
-        const int row = morvel().lst.item(name).index() - 1;
-        const QRect cell = tree().visualRect(tree().model()->index(row, 0));
-        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, cell.center());
-    }
     // Answers the next input box with text and Enter, as a person types into it.
     static void answerNextInputBox(const QString& text) {
         QTimer::singleShot(0, [text] {
@@ -63,24 +51,9 @@ private:
 
 private slots:
     void init() {
-        defs = std::make_shared<FieldDefs>();
-        defs->Add("ID", 3);
-        defs->Add("Total", 8);
-        defs->Add("Approved", 11);
-        defs->Add("Notes", 200);
-        defs->Add("Owner", 1000);
-        designer = std::make_unique<qt::MorvelWidget>();
-        designer->setCanModifyExisting(true);
-        designer->setFieldDefs(defs);
-        designer->resize(900, 640);
-        designer->show();
-        designer->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(designer.get()));
+        show({{"ID", 3}, {"Total", 8}, {"Approved", 11}, {"Notes", 200}, {"Owner", 1000}});
     }
-    void cleanup() {
-        designer.reset();
-        defs.reset();
-    }
+    void cleanup() { close(); }
 
     void strayKeysAfterFindChangeNoField() {
         const std::string before = testkit::fieldsSnapshot(*defs);
@@ -110,7 +83,7 @@ private slots:
 
     void aWheelOverAnUnfocusedDropDownChangesNothing() {
         clickRow("Total");
-        auto& type = *designer->binding().widgetAs<QComboBox>(morvel().cboType);
+        auto& type = widget<QComboBox>(morvel().cboType);
         QVERIFY(!type.hasFocus());
         const std::string before = testkit::fieldsSnapshot(*defs);
         const QPointF centre = QRectF(type.rect()).center();
