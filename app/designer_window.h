@@ -15,6 +15,8 @@ class QTreeView;
 
 namespace morvel::app {
 
+class ChangeMarkers;
+
 // The morvel-designer main window: a table picker, the designer for the picked table's fields,
 // and the actions around it. The window only makes the actions and wires them: the table's load,
 // save and reload are the session's, the commands on fields are FieldCommands', and every
@@ -44,6 +46,7 @@ public:
     qt::MorvelWidget& designer() const { return *m_designer; }
     QTreeView& fieldList() const;
     TableSession& session() { return m_session; }
+    ChangeMarkers& markers() const { return *m_markers; }
     const TableDefinition& table() const { return m_session.table(); }
     bool isModified() const { return m_session.isModified(); }
     bool save();
@@ -70,6 +73,8 @@ private:
     void undoRedoChanged();
     // Undoes (or redoes) the last step of the table's history.
     void stepBack(bool redo);
+    // Shows every change since the load or the last save, with the ways to revert them.
+    void reviewChanges();
     void allowChangesToggled(bool allowed);
     void removeField();
     Place place() const;
@@ -81,6 +86,7 @@ private:
     view::Prompter& m_prompter;
     TableSession m_session;
     qt::MorvelWidget* m_designer;
+    ChangeMarkers* m_markers = nullptr;
     commands::FieldCommands m_fields;
     std::int32_t m_shownTable = 0;
     QComboBox* m_tablePicker = nullptr;
@@ -89,6 +95,7 @@ private:
     QAction* m_save = nullptr;
     QAction* m_saveAsNew = nullptr;
     QAction* m_revert = nullptr;
+    QAction* m_review = nullptr;
     QAction* m_removeField = nullptr;
     QAction* m_allowChanges = nullptr;
     QLabel* m_note = nullptr;
