@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designer_window.h"
 
+#include "change_dialogs.h"
+#include "change_markers.h"
 #include "qt/error_boundary.h"
 
 #include <QAbstractButton>
@@ -47,6 +49,7 @@ DesignerWindow::DesignerWindow(std::shared_ptr<SchemaDatabase> database, view::P
     , m_fields(m_designer->morvel(), m_prompter)
     , m_steps(m_designer->morvel()) {
     setCentralWidget(m_designer);
+    m_markers = new ChangeMarkers(m_designer->morvel().lst, fieldList(), this);
     m_designer->setDatabase(m_session.sharedDatabase());
     m_session.setCommitEdit([this] { m_designer->commitEdit(); });
     m_sessionWatch += m_session.loaded.connect([this] { tableLoaded(); });
@@ -93,6 +96,13 @@ void DesignerWindow::buildActions() {
     connect(qApp, &QApplication::focusChanged, this, [this] {
         if (History* history = m_session.history())
             history->breakMerge();
+    });
+    m_review =
+        edit->addAction(tr("Review &Changes..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R),
+                        this, &DesignerWindow::reviewChanges);
+    m_session.setConflictResolver([this](std::vector<MergeConflict>& conflicts) {
+        MergeConflictsDialog dialog(conflicts, this);
+        return dialog.exec() == QDialog::Accepted;
     });
     edit->addSeparator();
     // The designer's own Find and Find Next: they end the edit in progress and leave the keyboard
@@ -234,6 +244,8 @@ void DesignerWindow::tablePicked(int index) {
 }
 
 void DesignerWindow::tableLoaded() {
+    // The change set of the table shown until now is gone; the new one comes with the state.
+    m_markers->follow(nullptr, nullptr);
     // Loading the table shown again (Revert, Reload) keeps the person's place in it.
     const bool again = m_designer->fieldDefs() && m_shownTable == table().info.id;
     const Place kept = again ? place() : Place{};
@@ -252,6 +264,7 @@ void DesignerWindow::stateChanged() {
     const bool open = m_session.isOpen();
     const bool readOnly = m_session.isReadOnly();
     setWindowModified(m_session.isModified());
+    m_markers->follow(table().fields, m_session.changes());
     m_save->setEnabled(open && !readOnly);
     m_saveAsNew->setEnabled(open && !readOnly);
     m_save->setToolTip(
@@ -261,6 +274,7 @@ void DesignerWindow::stateChanged() {
     m_revert->setEnabled(open);
     if (m_historyModel->history() != m_session.history())
         m_historyModel->setHistory(m_session.history());
+    m_review->setEnabled(m_session.isModified());
     undoRedoChanged();
     m_removeField->setEnabled(!!m_designer->selectedField());
     const QString name = open ? toQString(table().info.displayName) : tr("no table");
@@ -322,6 +336,15 @@ bool DesignerWindow::eventFilter(QObject* watched, QEvent* event) {
     // that the edit in progress is not a step yet: ending it first can make one.
     stepBack(redo);
     return true;
+}
+
+void DesignerWindow::reviewChanges() {
+    m_designer->commitEdit();
+    ChangeSet* changes = m_session.changes();
+    if (!changes)
+        return;
+    ReviewChangesDialog dialog(ChangeReview(*table().fields, *changes), this);
+    dialog.exec();
 }
 
 void DesignerWindow::allowChangesToggled(bool allowed) {

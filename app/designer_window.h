@@ -21,6 +21,8 @@ class QTreeView;
 
 namespace morvel::app {
 
+class ChangeMarkers;
+
 // The morvel-designer main window: a table picker, the designer for the picked table's fields,
 // and the actions around it. The window only makes the actions and wires them: the table's load,
 // save and reload are the session's, the commands on fields are FieldCommands', and every
@@ -53,6 +55,7 @@ public:
     QDockWidget& historyDock() const { return *m_historyDock; }
     QListView& historyView() const { return *m_historyView; }
     TableSession& session() { return m_session; }
+    ChangeMarkers& markers() const { return *m_markers; }
     const TableDefinition& table() const { return m_session.table(); }
     bool isModified() const { return m_session.isModified(); }
     bool save();
@@ -82,6 +85,8 @@ private:
     void stepBack(bool redo);
     // Goes to the state after the first `row` steps, as a click on that row of the History dock.
     void jumpTo(int row);
+    // Shows every change since the load or the last save, with the ways to revert them.
+    void reviewChanges();
     void allowChangesToggled(bool allowed);
     void removeField();
     Place place() const;
@@ -93,6 +98,7 @@ private:
     view::Prompter& m_prompter;
     TableSession m_session;
     qt::MorvelWidget* m_designer;
+    ChangeMarkers* m_markers = nullptr;
     commands::FieldCommands m_fields;
     commands::HistoryCommands m_steps;
     qt::HistoryModel* m_historyModel = nullptr;
@@ -105,6 +111,7 @@ private:
     QAction* m_save = nullptr;
     QAction* m_saveAsNew = nullptr;
     QAction* m_revert = nullptr;
+    QAction* m_review = nullptr;
     QAction* m_removeField = nullptr;
     QAction* m_allowChanges = nullptr;
     QLabel* m_note = nullptr;

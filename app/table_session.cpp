@@ -46,15 +46,15 @@ bool TableSession::open(std::string_view name) {
 
 void TableSession::load(TableDefinition table) {
     m_watch.clear();
+    m_changes.reset();
     m_history.reset();
     m_table = std::move(table);
     loaded.notify();
     // Recorded only from here on: handing the fields to the designer is no edit.
     m_history = std::make_unique<History>(*m_table.fields);
-    m_watch += m_history->stateChanged.connect([this] {
-        m_modified = !m_history->isClean();
-        stateChanged.notify();
-    });
+    m_changes = std::make_unique<ChangeSet>(*m_table.fields);
+    m_watch += m_history->stateChanged.connect([this] { stateChanged.notify(); });
+    m_watch += m_changes->emptyChanged.connect([this] { setModified(!m_changes->empty()); });
     m_modified = false;
     stateChanged.notify();
 }
@@ -68,6 +68,7 @@ void TableSession::setModified(bool modified) {
 
 void TableSession::markSaved() {
     m_history->setClean();
+    m_changes->rebase();
     setModified(false);
 }
 
@@ -89,7 +90,7 @@ bool TableSession::save() {
     if (!isOpen())
         return false;
     try {
-        m_database->save(m_table);
+        m_database->save(m_table, m_changes.get());
     } catch (const ConcurrentSaveError&) {
         return offerWaysOut();
     } catch (const StoreError& error) {
@@ -119,17 +120,42 @@ bool TableSession::offerWaysOut() {
     }
     const view::MsgBoxResult answer = m_prompter.messageBox(
         {"Someone else changed and saved the table " + quotedName() + " after you opened it, " +
-             "so your changes were not saved. They are still in the window.\n\nSave them as a " +
-             "new table, or reload the table as it is now saved (this drops your changes).",
-         view::MsgBoxButtons::YesNoCancel,
+             "so your changes were not saved. They are still in the window.\n\nMerge their " +
+             "changes into yours (you choose where both of you changed the same thing), save " +
+             "yours as a new table, or reload the table as it is now saved (this drops your " +
+             "changes).",
+         view::MsgBoxButtons::YesNoOKCancel,
          view::MsgBoxIcon::Exclamation,
          "",
-         {"Save as New Table...", "Reload", "Cancel"}});
+         {"Save as New Table...", "Reload", "Merge...", "Cancel"}});
     if (answer == view::MsgBoxResult::Yes)
         return saveAsNew();
     if (answer == view::MsgBoxResult::No)
         reload();
+    if (answer == view::MsgBoxResult::OK)
+        merge();
     return false;
+}
+
+bool TableSession::merge() {
+    commitEdit();
+    if (!isOpen())
+        return false;
+    const std::optional<TableInfo> info = m_database->findTable(m_table.info.id);
+    if (!info || info->revision == m_table.info.revision)
+        return false;
+    TableDefinition theirs = m_database->load(info->id);
+    ThreeWayMerge merging(*m_table.fields, *m_changes, *theirs.fields);
+    if (!merging.conflicts().empty() && (!m_resolve || !m_resolve(merging.conflicts())))
+        return false;
+    merging.apply();
+    m_table.info = theirs.info;
+    setModified(!m_changes->empty());
+    stateChanged.notify();
+    tell("Their changes are merged into yours. Review the result (Edit > Review Changes) and "
+         "save it.",
+         view::MsgBoxIcon::Information);
+    return true;
 }
 
 bool TableSession::saveAsNew() {

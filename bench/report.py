@@ -39,6 +39,12 @@ OPERATIONS = {
     "Qt_AfterAdd": ("qt: AfterAdd + repaint", FRAME, "Reference_InsertMiddle"),
     "Qt_AfterRemove": ("qt: AfterRemove + repaint", FRAME, "Reference_RemoveMiddle"),
     "Qt_UndoRedoStep": ("qt: undo or redo one step + repaint", FRAME, None),
+    "Store_SaveOneChange": ("store: save one changed field", 10 * MS, None),
+    "Store_SaveNothing": ("store: save with nothing changed", 1 * MS, None),
+    "Store_FirstSave": ("store: first save of a new table", 300 * MS, None),
+    "Store_Load": ("store: load a table", 150 * MS, None),
+    "ChangeSet_Change": ("change set: one change heard", 0.001 * MS, None),
+    "ChangeReview_Rows": ("change review: rows of 1,000 changes", 10 * MS, None),
     "Reference_FillPaint": ("reference QTreeWidget: fill + paint", None, None),
     "Reference_SelectLastRow": ("reference QTreeWidget: select + scroll last", None, None),
     "Reference_CellChange": ("reference QTreeWidget: change a cell", None, None),
@@ -57,7 +63,8 @@ LINEAR_FACTOR = 15.0
 
 # Operations whose cost grows with the list by their nature: a refill makes every row, a find tests
 # every row. Every other operation is keyed and must not grow.
-LINEAR = ("Headless_SetFieldDefs", "Headless_FindNextWorstCase", "Qt_FirstPaint")
+LINEAR = ("Headless_SetFieldDefs", "Headless_FindNextWorstCase", "Qt_FirstPaint",
+          "Store_FirstSave", "Store_Load")
 
 # Operations that must cost no more than plain Qt's doing the same.
 AT_MOST_REFERENCE = ("Qt_KeystrokeCell",)

@@ -173,13 +173,21 @@ void ChangeSet::rebase() {
     for (const auto& [id, tracked] : m_tracked)
         told.push_back(tracked.field);
     const bool wasEmpty = empty();
+    // The walk over every field is needed only when the order is not the baseline's any more; a
+    // save of edits in place stays flat in the size of the table.
+    bool sameOrder =
+        !m_orderDiffers && m_baselineOrder.size() == static_cast<std::size_t>(m_fields.Count());
+    for (const auto& [id, tracked] : m_tracked)
+        sameOrder = sameOrder && tracked.inBaseline && tracked.present;
     m_tracked.clear();
     m_differing = 0;
     m_orderDiffers = false;
-    m_baselineOrder.clear();
-    m_baselineOrder.reserve(static_cast<std::size_t>(m_fields.Count()));
-    for (const auto& field : m_fields)
-        m_baselineOrder.push_back(field->id());
+    if (!sameOrder) {
+        m_baselineOrder.clear();
+        m_baselineOrder.reserve(static_cast<std::size_t>(m_fields.Count()));
+        for (const auto& field : m_fields)
+            m_baselineOrder.push_back(field->id());
+    }
     for (const auto& field : told)
         tell(field);
     if (!wasEmpty)

@@ -174,14 +174,19 @@ void ListViewBinder::clickRow(int row) {
 void ListViewBinder::showCutText(const QHelpEvent& help) {
     const QModelIndex index = m_tree.indexAt(help.pos());
     const QString text = index.data().toString();
+    const QString note = index.data(Qt::ToolTipRole).toString();
     const QRect cell = m_tree.visualRect(index);
     // A cell's text has a margin of a few pixels either side; a cut text shows whole in a tip.
     const int margin = 2 * (m_tree.style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
-    if (!index.isValid() || m_tree.fontMetrics().horizontalAdvance(text) + margin <= cell.width()) {
+    const bool cut =
+        index.isValid() && m_tree.fontMetrics().horizontalAdvance(text) + margin > cell.width();
+    if (!cut && note.isEmpty()) {
         QToolTip::hideText();
         return;
     }
-    QToolTip::showText(help.globalPos(), text, m_tree.viewport(), cell);
+    // A host's note on the row (what changed in it) goes under the whole text.
+    const QString tip = cut && !note.isEmpty() ? text + "\n\n" + note : cut ? text : note;
+    QToolTip::showText(help.globalPos(), tip, m_tree.viewport(), cell);
 }
 
 bool ListViewBinder::eventFilter(QObject* watched, QEvent* event) {

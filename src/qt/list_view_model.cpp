@@ -44,12 +44,27 @@ int ListViewModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : m_columnCount;
 }
 
+void ListViewModel::setDecoration(Decoration decoration) {
+    m_decoration = std::move(decoration);
+    if (m_rowCount > 0)
+        Q_EMIT dataChanged(index(0, 0), index(m_rowCount - 1, m_columnCount - 1),
+                           {Qt::DecorationRole, Qt::ToolTipRole});
+}
+
+void ListViewModel::decorationChanged(const view::ListItem& row) {
+    const int at = row.index() - 1;
+    if (at < 0 || at >= m_rowCount)
+        return;
+    Q_EMIT dataChanged(index(at, 0), index(at, m_columnCount - 1),
+                       {Qt::DecorationRole, Qt::ToolTipRole});
+}
+
 QVariant ListViewModel::data(const QModelIndex& index, int role) const {
-    if (role != Qt::DisplayRole && role != Qt::EditRole)
-        return {};
     const view::ListItem* item = itemAt(index.row());
     if (!item)
         return {};
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return m_decoration ? m_decoration(*item, index.column(), role) : QVariant();
     return toQString(index.column() == 0 ? item->text() : item->subItem(index.column()));
 }
 

@@ -6,6 +6,7 @@
 #include "view/list_view.h"
 
 #include <QAbstractTableModel>
+#include <functional>
 
 namespace morvel::qt {
 
@@ -19,7 +20,16 @@ class ListViewModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
+    // What a host lays over a row beside its text: a marker (Qt::DecorationRole), a tip
+    // (Qt::ToolTipRole). Asked for column and role of the row, as Qt asks; an invalid QVariant
+    // for nothing. The list view itself knows nothing of it.
+    using Decoration = std::function<QVariant(const view::ListItem& row, int column, int role)>;
+
     explicit ListViewModel(view::ListView& list, QObject* parent = nullptr);
+
+    void setDecoration(Decoration decoration);
+    // The decoration of that row reads differently now: its views repaint it.
+    void decorationChanged(const view::ListItem& row);
 
     view::ListView& list() const { return m_list; }
     // The row at a 0-based Qt row; null outside the list.
@@ -38,6 +48,7 @@ private:
     void apply(const view::ListChange& change);
 
     view::ListView& m_list;
+    Decoration m_decoration;
     int m_rowCount = 0;
     int m_columnCount = 0;
     Connection m_rows;

@@ -47,6 +47,8 @@ QMessageBox::StandardButtons buttonsOf(view::MsgBoxButtons buttons) {
         return QMessageBox::Yes | QMessageBox::No;
     case view::MsgBoxButtons::YesNoCancel:
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case view::MsgBoxButtons::YesNoOKCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Ok | QMessageBox::Cancel;
     case view::MsgBoxButtons::OK:
         break;
     }

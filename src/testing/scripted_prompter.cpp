@@ -24,6 +24,7 @@ MsgBoxResult ScriptedPrompter::messageBox(const MessageBoxRequest& request) {
     case MsgBoxButtons::YesNo:
         return MsgBoxResult::No;
     case MsgBoxButtons::YesNoCancel:
+    case MsgBoxButtons::YesNoOKCancel:
         return MsgBoxResult::Cancel;
     }
     return MsgBoxResult::Cancel;

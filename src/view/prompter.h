@@ -8,12 +8,13 @@
 
 namespace morvel::view {
 
-enum class MsgBoxButtons : std::uint8_t { OK, OKCancel, YesNo, YesNoCancel };
+// YesNoOKCancel: four ways on, for a host's question with one more answer than YesNoCancel.
+enum class MsgBoxButtons : std::uint8_t { OK, OKCancel, YesNo, YesNoCancel, YesNoOKCancel };
 enum class MsgBoxIcon : std::uint8_t { None, Critical, Question, Exclamation, Information };
 enum class MsgBoxResult : std::uint8_t { OK, Cancel, Yes, No };
 
 // An empty title means the application's own title. buttonTexts, when given, name the buttons in
-// their order (Yes, No, Cancel) by what they do, for a host's question whose answers are not
+// their order (Yes, No, OK, Cancel) by what they do, for a host's question whose answers are not
 // plainly yes and no; the answers stay Yes, No and Cancel.
 struct MessageBoxRequest {
     std::string prompt;

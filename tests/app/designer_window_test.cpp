@@ -200,6 +200,10 @@ private slots:
             auto mine = open();
             auto theirs = open();
             theirs->table().fields->Item("Quantity")->SetDisplayName("Pieces");
+            // A save with nothing changed writes nothing: the second round changes something.
+            theirs->table()
+                .fields->Item("Quantity")
+                ->SetDescription(std::to_string(static_cast<int>(wayOut)));
             QVERIFY(theirs->save());
             mine->table().fields->Item("Total")->SetDisplayName("Grand total");
             prompter.reset();
@@ -214,8 +218,9 @@ private slots:
             const auto& refusal = std::get<view::MessageBoxRequest>(prompter.prompts().front());
             QVERIFY(refusal.prompt.find("not saved") != std::string::npos);
             QVERIFY(refusal.prompt.find("still in the window") != std::string::npos);
-            QCOMPARE(refusal.buttonTexts,
-                     (std::vector<std::string>{"Save as New Table...", "Reload", "Cancel"}));
+            QCOMPARE(
+                refusal.buttonTexts,
+                (std::vector<std::string>{"Save as New Table...", "Reload", "Merge...", "Cancel"}));
             QVERIFY(!mine->isModified());
             if (wayOut == MsgBoxResult::Yes) {
                 QCOMPARE(prompter.promptTexts().at(2),

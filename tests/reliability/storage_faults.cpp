@@ -38,6 +38,10 @@ std::string firstAnswer(const std::filesystem::path& path, const char* sql) {
 
 } // namespace
 
+std::string firstAnswerOf(const std::filesystem::path& path, const char* sql) {
+    return firstAnswer(path, sql);
+}
+
 std::string integrityCheck(const std::filesystem::path& path) {
     return firstAnswer(path, "PRAGMA integrity_check");
 }

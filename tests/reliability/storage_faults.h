@@ -13,6 +13,8 @@ namespace morvel::reliability {
 
 // SQLite's own verdict on the whole file ("ok" when sound), read through a read-only connection.
 std::string integrityCheck(const std::filesystem::path& path);
+// The first column of the first row that sql gives, as text, through a read-only connection.
+std::string firstAnswerOf(const std::filesystem::path& path, const char* sql);
 // Pages of the file as SQLite counts them.
 std::int64_t pageCount(const std::filesystem::path& path);
 
