@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/field_commands.h"
+#include "problems_panel.h"
 #include "qt/morvel_widget.h"
 #include "qt/qt_prompter.h"
 #include "table_session.h"
@@ -11,6 +12,7 @@
 class QAction;
 class QComboBox;
 class QLabel;
+class QMenu;
 class QTreeView;
 
 namespace morvel::app {
@@ -44,6 +46,7 @@ public:
     qt::MorvelWidget& designer() const { return *m_designer; }
     QTreeView& fieldList() const;
     TableSession& session() { return m_session; }
+    ProblemsPanel& problemsPanel() const { return *m_problemsPanel; }
     const TableDefinition& table() const { return m_session.table(); }
     bool isModified() const { return m_session.isModified(); }
     bool save();
@@ -60,6 +63,10 @@ private:
     };
 
     void buildActions();
+    // Export... and Import... of the Table menu (designer_window_interchange.cpp).
+    void buildInterchangeActions(QMenu* table);
+    void exportToFile();
+    void importFromFile();
     void buildStatusBar();
     void fillTablePicker();
     void tablePicked(int index);
@@ -94,6 +101,7 @@ private:
     QLabel* m_note = nullptr;
     QLabel* m_unlockNote = nullptr;
     QLabel* m_readOnlyNote = nullptr;
+    ProblemsPanel* m_problemsPanel = nullptr;
     Connections m_sessionWatch;
 };
 
