@@ -27,6 +27,11 @@ OPERATIONS = {
     "Headless_AfterAdd": ("headless: AfterAdd in the middle", 1 * MS, None),
     "Headless_AfterRemove": ("headless: AfterRemove in the middle", 6 * MS, None),
     "Headless_FindNextWorstCase": ("headless: find next, worst case", 2 * MS, None),
+    "Interchange_Export": ("text format: export a table", 1000 * MS, None),
+    "Interchange_Import": ("text format: import a table", 1000 * MS, None),
+    "Interchange_Diff": ("text format: diff two tables", 1000 * MS, None),
+    "Checks_Full": ("problems: full check at load", 200 * MS, None),
+    "Checks_Incremental": ("problems: re-check after an edit and a rename", 1 * MS, None),
     "Qt_FirstPaint": ("qt: FieldDefs to first paint", 100 * MS, "Reference_FillPaint"),
     "Qt_SelectLastRow": ("qt: select + scroll to last row", FRAME, "Reference_SelectLastRow"),
     "Qt_KeystrokeCell": ("qt: keystroke changing a cell", FRAME, "Reference_KeystrokeCell"),
@@ -50,7 +55,8 @@ LINEAR_FACTOR = 15.0
 
 # Operations whose cost grows with the list by their nature: a refill makes every row, a find tests
 # every row. Every other operation is keyed and must not grow.
-LINEAR = ("Headless_SetFieldDefs", "Headless_FindNextWorstCase", "Qt_FirstPaint")
+LINEAR = ("Headless_SetFieldDefs", "Headless_FindNextWorstCase", "Qt_FirstPaint",
+          "Interchange_Export", "Interchange_Import", "Interchange_Diff", "Checks_Full")
 
 # Operations that must cost no more than plain Qt's doing the same.
 AT_MOST_REFERENCE = ("Qt_KeystrokeCell",)
