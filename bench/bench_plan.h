@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 #include <cstdint>
+#include <cstdlib>
 #include <initializer_list>
 
 namespace morvel::bench {
@@ -18,6 +19,14 @@ struct SizePlan {
 // Wall-clock time of the timed part, or of what the benchmark reports with SetIterationTime.
 enum class Timing { Real, Manual };
 
+// MORVEL_BENCH_ITERATIONS replaces every fixed count, so that two runs under callgrind with
+// different counts give the instructions of one iteration by their difference, free of the set-up
+// and of whatever else the machine is doing.
+inline benchmark::IterationCount fixedIterations(benchmark::IterationCount planned) {
+    const char* forced = std::getenv("MORVEL_BENCH_ITERATIONS");
+    return forced && planned > 0 ? std::atoll(forced) : planned;
+}
+
 // Registers the benchmark once per plan, named "<name>/<fields>/...".
 inline void registerPlans(const char* name, void (*function)(benchmark::State&),
                           benchmark::TimeUnit unit, std::initializer_list<SizePlan> plans,
@@ -30,7 +39,7 @@ inline void registerPlans(const char* name, void (*function)(benchmark::State&),
         else
             b->UseRealTime();
         if (plan.iterations > 0)
-            b->Iterations(plan.iterations);
+            b->Iterations(fixedIterations(plan.iterations));
         if (plan.repetitions > 0)
             b->Repetitions(plan.repetitions);
     }
