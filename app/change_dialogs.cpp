@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "change_dialogs.h"
 
 #include "qt/error_boundary.h"

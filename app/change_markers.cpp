@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 #include "change_markers.h"
 
 #include "history/change_set.h"

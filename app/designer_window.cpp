@@ -57,6 +57,7 @@ DesignerWindow::DesignerWindow(std::shared_ptr<SchemaDatabase> database, view::P
     buildHistoryDock();
     buildActions();
     buildStatusBar();
+    m_problemsPanel = new ProblemsPanel(*this, *m_designer);
     fillTablePicker();
     m_designer->restoreLayoutState(QSettings().value(layoutKey()).toByteArray());
     connect(m_designer, &qt::MorvelWidget::selectedFieldChanged, this,
@@ -81,6 +82,8 @@ void DesignerWindow::buildActions() {
                                    [this] { reading([&] { m_session.saveAsNew(); }); });
     m_revert = table->addAction(tr("&Revert to Saved"), QKeySequence(Qt::CTRL | Qt::Key_R), this,
                                 [this] { reading([&] { m_session.reload(); }); });
+    table->addSeparator();
+    buildInterchangeActions(table);
     table->addSeparator();
     table->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 
@@ -254,6 +257,7 @@ void DesignerWindow::tableLoaded() {
     // The unlock is for the table it was given for, and is never carried over.
     m_allowChanges->setChecked(false);
     m_designer->setFieldDefs(table().fields);
+    m_problemsPanel->setTable(table().fields, &m_session.database());
     m_shownTable = table().info.id;
     if (again)
         restorePlace(kept);

@@ -4,6 +4,7 @@
 
 #include "commands/field_commands.h"
 #include "commands/history_commands.h"
+#include "problems_panel.h"
 #include "qt/history_model.h"
 #include "qt/morvel_widget.h"
 #include "qt/qt_prompter.h"
@@ -17,6 +18,7 @@ class QComboBox;
 class QDockWidget;
 class QLabel;
 class QListView;
+class QMenu;
 class QTreeView;
 
 namespace morvel::app {
@@ -56,6 +58,7 @@ public:
     QListView& historyView() const { return *m_historyView; }
     TableSession& session() { return m_session; }
     ChangeMarkers& markers() const { return *m_markers; }
+    ProblemsPanel& problemsPanel() const { return *m_problemsPanel; }
     const TableDefinition& table() const { return m_session.table(); }
     bool isModified() const { return m_session.isModified(); }
     bool save();
@@ -73,6 +76,10 @@ private:
 
     void buildActions();
     void buildHistoryDock();
+    // Export... and Import... of the Table menu (designer_window_interchange.cpp).
+    void buildInterchangeActions(QMenu* table);
+    void exportToFile();
+    void importFromFile();
     void buildStatusBar();
     void fillTablePicker();
     void tablePicked(int index);
@@ -117,6 +124,7 @@ private:
     QLabel* m_note = nullptr;
     QLabel* m_unlockNote = nullptr;
     QLabel* m_readOnlyNote = nullptr;
+    ProblemsPanel* m_problemsPanel = nullptr;
     Connections m_sessionWatch;
 };
 

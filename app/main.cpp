@@ -2,12 +2,18 @@
 // SPDX-License-Identifier: MIT
 // morvel-designer: designs the fields of the tables kept in a Morvel database.
 #include "command_line.h"
+#include "table_commands.h"
 
 #include <QApplication>
 #include <QTextStream>
+#include <iostream>
 
 int main(int argc, char** argv) {
     using namespace morvel::app;
+    // export, import and diff are for scripts: no Qt application, no display.
+    if (isTableCommand(argc, argv))
+        return runTableCommand(std::vector<std::string>(argv + 1, argv + argc), std::cout,
+                               std::cerr);
     // Without a display Qt cannot start its usual platform: draw off screen what needs no window,
     // and say what to do instead of failing inside Qt.
     if (!hasDisplay()) {

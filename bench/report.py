@@ -33,6 +33,11 @@ OPERATIONS = {
     "History_UndoRedoStep": ("history: undo or redo one step, field shown", 1 * MS, None),
     "History_UndoRemoval": ("history: undo or redo a removal in the middle", 6 * MS, None),
     "History_Undo1000Keystrokes": ("history: undo 1,000 keystroke steps", 100 * MS, None),
+    "Interchange_Export": ("text format: export a table", 1000 * MS, None),
+    "Interchange_Import": ("text format: import a table", 1000 * MS, None),
+    "Interchange_Diff": ("text format: diff two tables", 1000 * MS, None),
+    "Checks_Full": ("problems: full check at load", 200 * MS, None),
+    "Checks_Incremental": ("problems: re-check after an edit and a rename", 1 * MS, None),
     "Qt_FirstPaint": ("qt: FieldDefs to first paint", 100 * MS, "Reference_FillPaint"),
     "Qt_SelectLastRow": ("qt: select + scroll to last row", FRAME, "Reference_SelectLastRow"),
     "Qt_KeystrokeCell": ("qt: keystroke changing a cell", FRAME, "Reference_KeystrokeCell"),
@@ -65,6 +70,7 @@ LINEAR_FACTOR = 15.0
 # every row. Every other operation is keyed and must not grow.
 LINEAR = ("Headless_SetFieldDefs", "Headless_FindNextWorstCase", "Qt_FirstPaint",
           "Store_FirstSave", "Store_Load")
+          "Interchange_Export", "Interchange_Import", "Interchange_Diff", "Checks_Full")
 
 # Operations that must cost no more than plain Qt's doing the same.
 AT_MOST_REFERENCE = ("Qt_KeystrokeCell",)

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // What saving costs: one changed field, nothing changed, a new table's first save, a load, and
 // keeping the change set current, at 1,000, 10,000 and 100,000 fields.
 

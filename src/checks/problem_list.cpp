@@ -41,7 +41,9 @@ std::int32_t lowBit(std::size_t i) {
 
 ProblemList::ProblemList(std::shared_ptr<FieldDefs> fields, Database* database)
     : m_fields(std::move(fields))
-    , m_database(database) {
+    , m_database(database)
+    , m_context{*m_fields, database ? &m_tables : nullptr,
+                [this](const FieldDef& of) { return caseTwin(of); }} {
     m_tree.push_back(0);
     loadTables();
     checkAll();
@@ -99,6 +101,10 @@ void ProblemList::loadTables() {
 }
 
 void ProblemList::checkAll() {
+    const auto count = static_cast<std::size_t>(m_fields->Count());
+    m_byId.reserve(count);
+    m_spellings.reserve(count);
+    m_spellingOf.reserve(count);
     for (const auto& field : *m_fields)
         index(*field);
     for (const auto& field : *m_fields)
@@ -106,9 +112,7 @@ void ProblemList::checkAll() {
 }
 
 void ProblemList::recheck(const FieldDef& field) {
-    const CheckContext context{*m_fields, m_database ? &m_tables : nullptr,
-                               [this](const FieldDef& of) { return caseTwin(of); }};
-    replace(field.id(), checkField(field, context));
+    replace(field.id(), checkField(field, m_context));
 }
 
 // Re-checks the fields whose problems depend on a field of that name: those that refer to it and
@@ -152,6 +156,8 @@ void ProblemList::index(const FieldDef& field) {
     m_spellings[spelling].push_back(field.id());
     m_spellingOf[field.id()] = std::move(spelling);
     std::vector<std::string> references = referencedNames(field);
+    if (references.empty())
+        return;
     for (std::string& name : references) {
         name = libraryFolded(name);
         m_referrers[name].push_back(field.id());
@@ -181,8 +187,11 @@ void ProblemList::unindex(FieldId id) {
 }
 
 const FieldDef* ProblemList::caseTwin(const FieldDef& field) const {
-    const auto found = m_spellings.find(foldCase(field.Name()));
-    if (found == m_spellings.end())
+    const auto spelling = m_spellingOf.find(field.id());
+    if (spelling == m_spellingOf.end())
+        return nullptr;
+    const auto found = m_spellings.find(spelling->second);
+    if (found == m_spellings.end() || found->second.size() < 2)
         return nullptr;
     for (FieldId id : found->second)
         if (id != field.id())

@@ -84,6 +84,8 @@ private:
     std::shared_ptr<FieldDefs> m_fields;
     Database* m_database;
     KnownTables m_tables;
+    // What every re-check reads besides the field; made once.
+    CheckContext m_context;
     std::vector<Group> m_groups;
     std::vector<std::int32_t> m_tree; // 1-based Fenwick tree of group sizes
     std::unordered_map<FieldId, std::size_t> m_groupOf;

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The Morvel developers
+// SPDX-License-Identifier: MIT
 // The change markers, the review and the merge in the designer window, with keys on the real
 // widgets; message boxes are answered by a scripted prompter, the two dialogs by a hand here.
 #include "change_dialogs.h"
