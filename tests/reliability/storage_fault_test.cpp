@@ -162,7 +162,7 @@ void editEveryKind(FieldDefs& fields) {
 }
 
 TEST(StorageFaults, KilledIncrementalSavesLeaveTheOldOrTheNewDefinitionExactly) {
-    ScratchDir dir;
+    testing::TempDir dir;
     const auto path = dir.file("schema.morvel");
     std::string described[2];
     {
@@ -206,7 +206,7 @@ TEST(StorageFaults, KilledIncrementalSavesLeaveTheOldOrTheNewDefinitionExactly) 
 }
 
 TEST(StorageFaults, KilledMigrationsLeaveTheOldFileOrTheUpdatedOne) {
-    ScratchDir dir;
+    testing::TempDir dir;
     const auto path = dir.file("old.morvel");
     const std::filesystem::path fixture = MORVEL_STORE_FIXTURES "/version1.db";
     const auto everyTable = [&] {
