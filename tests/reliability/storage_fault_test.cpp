@@ -122,7 +122,7 @@ TEST(StorageFaults, KilledSavesLeaveTheOldOrTheNewDefinitionExactly) {
 // Runs work in a child process, killed anywhere in its first spreadMicroseconds, kills times;
 // after each kill (or end) judge sees the file.
 void killRepeatedly(int kills, std::int64_t spreadMicroseconds, const std::function<void()>& before,
-                   const std::function<void()>& work, const std::function<void(int)>& judge) {
+                    const std::function<void()>& work, const std::function<void(int)>& judge) {
     std::mt19937_64 random(11);
     for (int kill = 0; kill < kills; ++kill) {
         before();
@@ -199,8 +199,8 @@ TEST(StorageFaults, KilledIncrementalSavesLeaveTheOldOrTheNewDefinitionExactly) 
                 << "after kill " << kill << " the table holds neither definition";
             ++found[stored == described[0] ? 0 : 1];
         });
-    std::cout << "killed incremental saves: unedited " << found[0] << " times, edited "
-              << found[1] << " times\n";
+    std::cout << "killed incremental saves: unedited " << found[0] << " times, edited " << found[1]
+              << " times\n";
     EXPECT_GT(found[0], 0);
     EXPECT_GT(found[1], 0);
 }
